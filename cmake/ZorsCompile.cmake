@@ -1,0 +1,31 @@
+# How everything in the project is compiled.
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_C_STANDARD 99)
+set(CMAKE_C_STANDARD_REQUIRED ON)
+set(CMAKE_C_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+find_program(ZORS_CCACHE ccache)
+if(ZORS_CCACHE)
+  set(CMAKE_C_COMPILER_LAUNCHER ${ZORS_CCACHE})
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${ZORS_CCACHE})
+endif()
+
+if(PROJECT_IS_TOP_LEVEL)
+  add_compile_options(-Wall -Wextra -Wconversion -Wshadow -Werror)
+endif()
+
+set(ZORS_SANITIZE "" CACHE STRING "Sanitizers to build with, as -fsanitize= takes them")
+if(ZORS_SANITIZE)
+  add_compile_options(-fsanitize=${ZORS_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=${ZORS_SANITIZE})
+endif()
+
+option(ZORS_COVERAGE "Count executed lines" OFF)
+if(ZORS_COVERAGE)
+  add_compile_options(--coverage)
+  add_link_options(--coverage)
+endif()

@@ -1,0 +1,19 @@
+/**
+ * @file
+ * Everything that the library exports. The headers below declare functions only; they may be included again
+ * under another meaning of ZORSAPI and therefore have no include guards.
+ */
+#include <zortypes.h>
+
+#include <zors/frame/memory.h>
+#include <zors/frame/version.h>
+
+#include <zors/vector/arithmetic.h>
+#include <zors/vector/bits.h>
+#include <zors/vector/complex.h>
+#include <zors/vector/convert.h>
+#include <zors/vector/copy.h>
+#include <zors/vector/reorder.h>
+#include <zors/vector/sequence.h>
+#include <zors/vector/set.h>
+#include <zors/vector/statistics.h>

@@ -1,0 +1,159 @@
+/**
+ * @file
+ * Element types, status codes and the declaration macro that every public function goes through.
+ *
+ * A vector argument is a pointer to a contiguous array of one of these types; lengths count elements, never
+ * bytes. The code after `Zor` is the one that function names carry: `zorsAdd_16s_Sfs` works on `Zor16s`.
+ */
+#ifndef ZORTYPES_H
+#define ZORTYPES_H
+
+#include <stdint.h>
+
+typedef uint8_t Zor8u; /**< unsigned 8-bit integer; also the bytes of packed 24-bit and bit-string formats */
+typedef int8_t Zor8s;  /**< signed 8-bit integer */
+typedef uint16_t Zor16u; /**< unsigned 16-bit integer */
+typedef int16_t Zor16s;  /**< signed 16-bit integer */
+typedef uint32_t Zor32u; /**< unsigned 32-bit integer */
+typedef int32_t Zor32s;  /**< signed 32-bit integer */
+typedef uint64_t Zor64u; /**< unsigned 64-bit integer */
+typedef int64_t Zor64s;  /**< signed 64-bit integer */
+typedef float Zor32f;    /**< IEEE 754 binary32 */
+typedef double Zor64f;   /**< IEEE 754 binary64 */
+typedef uint16_t Zor16f; /**< the bits of an IEEE 754 binary16; stored and converted, never computed in */
+
+/** Complex pair of signed 8-bit integers. */
+typedef struct {
+    Zor8s re; /**< real part */
+    Zor8s im; /**< imaginary part */
+} Zor8sc;
+
+/** Complex pair of signed 16-bit integers. */
+typedef struct {
+    Zor16s re; /**< real part */
+    Zor16s im; /**< imaginary part */
+} Zor16sc;
+
+/** Complex pair of signed 32-bit integers. */
+typedef struct {
+    Zor32s re; /**< real part */
+    Zor32s im; /**< imaginary part */
+} Zor32sc;
+
+/** Complex pair of signed 64-bit integers. */
+typedef struct {
+    Zor64s re; /**< real part */
+    Zor64s im; /**< imaginary part */
+} Zor64sc;
+
+/** Complex pair of single-precision floats. */
+typedef struct {
+    Zor32f re; /**< real part */
+    Zor32f im; /**< imaginary part */
+} Zor32fc;
+
+/** Complex pair of double-precision floats. */
+typedef struct {
+    Zor64f re; /**< real part */
+    Zor64f im; /**< imaginary part */
+} Zor64fc;
+
+/**
+ * What every operation returns: 0 is success, a negative value an error (nothing was written), a positive
+ * value a warning (everything was written; some elements met a special case and got a defined substitute).
+ */
+typedef Zor32s ZorStatus;
+
+/** The values of @ref ZorStatus. */
+enum {
+    zorStsOk = 0,                     /**< success */
+    zorStsSqrtNegArg = 3,             /**< warning: negative input to an integer square root */
+    zorStsDivByZero = 6,              /**< warning: an element divisor was zero */
+    zorStsLnZeroArg = 7,              /**< warning: logarithm of zero */
+    zorStsLnNegArg = 8,               /**< warning: logarithm of a negative value */
+    zorStsBadArgument = -5,           /**< an argument is outside its range */
+    zorStsBadSize = -6,               /**< a length or size is below 1 or above a limit */
+    zorStsBadZeroCrossingType = -7,   /**< zero-crossing measure not recognised */
+    zorStsNullPointer = -8,           /**< a required pointer is null */
+    zorStsNoMemory = -9,              /**< an internal allocation failed */
+    zorStsDivByZeroError = -10,       /**< a divisor constant is zero */
+    zorStsBadCauchyParameter = -11,   /**< Cauchy parameter not above 0 */
+    zorStsBadDataType = -12,          /**< data-type selector not recognised */
+    zorStsBadTapsScale = -13,         /**< scale factor of integer IIR taps is negative */
+    zorStsBadFftOrder = -15,          /**< FFT order out of range */
+    zorStsBadFftFlag = -16,           /**< FFT normalisation flag not recognised */
+    zorStsWrongContext = -17,         /**< the record is not of the kind that the function expects */
+    zorStsBadThresholdOrder = -18,    /**< upper threshold below lower threshold */
+    zorStsNegativeThreshold = -19,    /**< negative level where a magnitude is compared */
+    zorStsBadDelayIndex = -24,        /**< delay-line index outside [0, taps length) */
+    zorStsBadIirOrder = -25,          /**< IIR order or number of biquads below 1 */
+    zorStsBadFirLength = -26,         /**< FIR taps length below 1 */
+    zorStsBadRelFreq = -27,           /**< relative frequency outside [0, 1) */
+    zorStsBadMultiRatePhase = -28,    /**< up or down phase outside [0, factor) */
+    zorStsBadMultiRateFactor = -29,   /**< up or down factor below 1 */
+    zorStsBadSamplePhase = -30,       /**< phase outside [0, factor) */
+    zorStsBadSampleFactor = -31,      /**< factor below 1 */
+    zorStsBadShift = -32,             /**< shift count negative */
+    zorStsBadWindowLength = -33,      /**< window length below 1 */
+    zorStsBadWtOffset = -35,          /**< wavelet filter offset below -1 */
+    zorStsBadJaehneMagnitude = -38,   /**< magnitude negative */
+    zorStsBadKaiserAlpha = -39,       /**< Kaiser alpha too large for the window's length */
+    zorStsBadTrianglePhase = -40,     /**< phase outside [-pi, pi) */
+    zorStsBadTriangleAsym = -41,      /**< asymmetry out of range */
+    zorStsBadTriangleFreq = -42,      /**< frequency outside [0, 0.5) */
+    zorStsBadTriangleMagnitude = -43, /**< magnitude not above 0 */
+    zorStsBadToneFreq = -44,          /**< Q15 frequency above 205886 */
+    zorStsBadTonePhase = -45,         /**< Q15 phase above 16383 */
+    zorStsBadToneMagnitude = -46,     /**< Q15 magnitude below 1 */
+    zorStsBadChannelCount = -47,      /**< channel count below 1 (integer multi-channel filters) */
+    zorStsBadNumChannels = -53,       /**< channel count below 1 (floating multi-channel filters) */
+    zorStsBadSparsePositions = -194,  /**< sparse tap positions negative or not strictly increasing */
+    zorStsBadRoundMode = -213,        /**< rounding mode not supported by this function */
+    zorStsBadAlgType = -228           /**< algorithm or normalisation selector not recognised */
+};
+
+/** How a value between two integers is rounded. */
+typedef Zor32s ZorRoundMode;
+
+/** The values of @ref ZorRoundMode. */
+enum {
+    zorRndZero = 0,     /**< toward zero */
+    zorRndNear = 1,     /**< to nearest, ties to even */
+    zorRndFinancial = 2 /**< to nearest, ties away from zero */
+};
+
+/** A caller's preference between speed and precision, for the functions that take one. */
+typedef Zor32s ZorHintAlgorithm;
+
+/** The values of @ref ZorHintAlgorithm. */
+enum {
+    ZOR_ALG_ANY = 0,      /**< the function's own choice */
+    ZOR_ALG_SPEED = 1,    /**< faster */
+    ZOR_ALG_PRECISION = 2 /**< more precise */
+};
+
+/** The version record that zorsGetLibVersion() returns. */
+typedef struct {
+    Zor32s versionMajor;     /**< 8 */
+    Zor32s versionMinor;     /**< 1 */
+    Zor32s versionUpdate;    /**< 1 */
+    Zor32s buildNumber;      /**< number of the build within the version */
+    char cpuTag[4];          /**< tag of the processor variant that the library is named after */
+    const char* libraryName; /**< name for display */
+    const char* versionText; /**< version for display */
+    const char* buildDate;   /**< date of the build */
+} ZorLibraryVersion;
+
+/**
+ * Declares one public function. The library and its tests give the macro other meanings and include the
+ * headers again: entry stubs, slots and the table of all functions are made from these lines alone.
+ */
+#ifndef ZORSAPI
+#ifdef __cplusplus
+#define ZORSAPI(type, name, args) extern "C" type name args;
+#else
+#define ZORSAPI(type, name, args) type name args;
+#endif
+#endif
+
+#endif

@@ -1,0 +1,109 @@
+// The shapes of the loops over vectors, each written once.
+//
+// A loop calls its body with a place: where in the vectors a step stands and how much of them it covers. The
+// body passes the place on to the load and store below, which do the right thing for a whole vector, for the
+// part that is left at the end, and for a store past the caches. So a kernel is one lambda,
+//
+//     blocks<lanes<T>>(len, [=](auto at) { store(pDst, at, load(pSrc, at) + load(pDst, at)); });
+//
+// and neither reads nor writes a byte outside its vectors, whatever their lengths and alignments.
+#pragma once
+
+#include "memory.h"
+
+namespace zors::ZORS_VARIANT {
+
+// N elements from index on.
+template <int N>
+struct Whole {
+    static constexpr int lanes = N;
+    std::ptrdiff_t index;
+};
+
+// Fewer than N elements from index on: the end of a vector, or what lies before an aligned address.
+template <int N>
+struct Part {
+    static constexpr int lanes = N;
+    std::ptrdiff_t index;
+    int count;
+};
+
+// N elements from index on, where the destination is aligned to the native width and too long for the caches.
+template <int N>
+struct Streamed {
+    static constexpr int lanes = N;
+    std::ptrdiff_t index;
+};
+
+template <class T, int N>
+inline Vec<T, N> load(const T* p, Whole<N> at)
+{
+    return load<N>(p + at.index);
+}
+
+template <class T, int N>
+inline Vec<T, N> load(const T* p, Streamed<N> at)
+{
+    return load<N>(p + at.index);
+}
+
+template <class T, int N>
+inline Vec<T, N> load(const T* p, Part<N> at)
+{
+    return loadFirst<N>(p + at.index, at.count);
+}
+
+template <class T, int N>
+inline void store(T* p, Whole<N> at, Vec<T, N> v)
+{
+    store<N>(p + at.index, v);
+}
+
+template <class T, int N>
+inline void store(T* p, Streamed<N> at, Vec<T, N> v)
+{
+    storeStreaming<N>(p + at.index, v);
+}
+
+template <class T, int N>
+inline void store(T* p, Part<N> at, Vec<T, N> v)
+{
+    storeFirst<N>(p + at.index, v, at.count);
+}
+
+// Steps of N elements, four at a time while they last, then what is left over.
+template <int N, class Body>
+inline void blocks(std::ptrdiff_t len, Body body)
+{
+    std::ptrdiff_t i = 0;
+    for (; i + 4 * N <= len; i += 4 * N) {
+        body(Whole<N>{i});
+        body(Whole<N>{i + N});
+        body(Whole<N>{i + 2 * N});
+        body(Whole<N>{i + 3 * N});
+    }
+    for (; i + N <= len; i += N) body(Whole<N>{i});
+    if (i < len) body(Part<N>{i, static_cast<int>(len - i)});
+}
+
+// A destination of this many bytes is written past the caches: it would displace everything else in them.
+inline constexpr std::ptrdiff_t streamedBytes = std::ptrdiff_t{4} << 20;
+
+// The same steps for a body whose only stores go to pDst; a long destination is streamed. The destination must
+// not be a source as well.
+template <int N, class T, class Body>
+inline void blocksInto(T* pDst, std::ptrdiff_t len, Body body)
+{
+    constexpr auto size = static_cast<std::ptrdiff_t>(sizeof(T));
+    const auto toAligned = -reinterpret_cast<std::intptr_t>(pDst) & (vectorBytes - 1);
+    if (len * size < streamedBytes || toAligned % size != 0) return blocks<N>(len, body);
+
+    const std::ptrdiff_t head = toAligned / size;
+    if (head > 0) body(Part<N>{0, static_cast<int>(head)});
+    std::ptrdiff_t i = head;
+    for (; i + N <= len; i += N) body(Streamed<N>{i});
+    if (i < len) body(Part<N>{i, static_cast<int>(len - i)});
+    streamFence();
+}
+
+} // namespace zors::ZORS_VARIANT

@@ -1,0 +1,107 @@
+// Rearrangement of lanes and of the bytes in them.
+#pragma once
+
+#include "vector.h"
+
+namespace zors::ZORS_VARIANT {
+
+// Result lane i is the lane Map{}(i) of a followed by b.
+template <class Map, class V>
+inline V permute(V a, V b)
+{
+    return []<int... I>(V x, V y, std::integer_sequence<int, I...>) {
+        return __builtin_shufflevector(x, y, Map{}(I)...);
+    }(a, b, std::make_integer_sequence<int, lanesOf<V>>{});
+}
+
+template <class Map, class V>
+inline V permute(V v)
+{
+    return permute<Map>(v, v);
+}
+
+// Bytes reversed inside every lane.
+template <class V>
+inline V byteSwapped(V v)
+{
+    constexpr int size = static_cast<int>(sizeof(ElementOf<V>));
+    if constexpr (vectorBytes > 16) {
+        struct Reversed {
+            constexpr int operator()(int i) const { return i / size * size + (size - 1 - i % size); }
+        };
+        return bitsAs<ElementOf<V>>(permute<Reversed>(bitsAs<std::uint8_t>(v)));
+    } else {
+        // Without a byte shuffle: neighbouring bytes, then neighbouring words, then neighbouring double words.
+        struct Neighbour {
+            constexpr int operator()(int i) const { return i ^ 1; }
+        };
+        const auto w = bitsAs<std::uint16_t>(v);
+        const auto d = bitsAs<std::uint32_t>(w << 8 | w >> 8);
+        if constexpr (size == 2) return bitsAs<ElementOf<V>>(d);
+        if constexpr (size == 4) return bitsAs<ElementOf<V>>(d << 16 | d >> 16);
+        if constexpr (size == 8) return bitsAs<ElementOf<V>>(permute<Neighbour>(d << 16 | d >> 16));
+    }
+}
+
+// The order of elements of Size bytes reversed; Size is a power of two up to 16.
+template <int Size, class V>
+inline V reversed(V v)
+{
+    using T = ElementOf<V>;
+    if constexpr (vectorBytes == 16 && Size < 4) {
+        const auto d = bitsAs<std::uint32_t>(reversed<4>(v));
+        const auto w = bitsAs<std::uint16_t>(d << 16 | d >> 16);
+        if constexpr (Size == 2) return bitsAs<T>(w);
+        if constexpr (Size == 1) return bitsAs<T>(w << 8 | w >> 8);
+    } else {
+        // First inside every 16 bytes, then these as wholes: each is one instruction.
+        constexpr int unit = Size < 8 ? Size : 8;
+        struct Inside {
+            constexpr int operator()(int i) const
+            {
+                constexpr int n = 16 / unit, group = Size / unit;
+                return i / n * n + (n - group - i % n / group * group) + i % group;
+            }
+        };
+        struct Across {
+            constexpr int operator()(int i) const { return (vectorBytes / 16 - 1 - i / 2) * 2 + i % 2; }
+        };
+        using Unit = typename UnsignedOf<unit>::type;
+        const auto inside = permute<Inside>(bitsAs<Unit>(v));
+        return bitsAs<T>(permute<Across>(bitsAs<std::uint64_t>(inside)));
+    }
+}
+
+template <class V>
+struct Pair {
+    V first, second;
+};
+
+// a0 b0 a1 b1 ... in two vectors.
+template <class V>
+inline Pair<V> interleave(V a, V b)
+{
+    constexpr int n = lanesOf<V>;
+    struct Low {
+        constexpr int operator()(int i) const { return i / 2 + (i % 2) * n; }
+    };
+    struct High {
+        constexpr int operator()(int i) const { return n / 2 + i / 2 + (i % 2) * n; }
+    };
+    return {permute<Low>(a, b), permute<High>(a, b)};
+}
+
+// The even and the odd lanes of a followed by b.
+template <class V>
+inline Pair<V> deinterleave(V a, V b)
+{
+    struct Even {
+        constexpr int operator()(int i) const { return 2 * i; }
+    };
+    struct Odd {
+        constexpr int operator()(int i) const { return 2 * i + 1; }
+    };
+    return {permute<Even>(a, b), permute<Odd>(a, b)};
+}
+
+} // namespace zors::ZORS_VARIANT
