@@ -1,0 +1,115 @@
+#include "call.h"
+
+#include <algorithm>
+#include <cstring>
+#include <string_view>
+
+namespace zors::contract {
+namespace {
+
+constexpr std::size_t mostParameters = 12;
+constexpr std::size_t mostBytes = 16 * (mostLength + 64);
+
+bool nameHas(const Export& e, std::string_view code)
+{
+    return e.name.find(code) != std::string::npos;
+}
+
+// Scalars with a meaning get values that exercise it; all others any value of their type.
+void setScalar(const Parameter& p, Value& value, Random& random)
+{
+    constexpr int factors[] = {0, 1, 2, 3, 7, 15, 16, 31, 40, -1, -2, -8, -31, -40, 2000, -2000};
+    if (p.name == "scaleFactor")
+        value.set(factors[random.below(16)]);
+    else if (p.name == "rndMode")
+        value.set(random.below(2));
+    else if (p.name == "hint")
+        value.set(random.below(3));
+    else if (p.name == "srcBitOffset" || p.name == "dstBitOffset")
+        value.set(random.below(18));
+    else if (p.name == "magn") {
+        // A magnitude is not negative: the sign bit of its last byte is cleared.
+        p.randomise(value.data(), 1, random);
+        auto* last = static_cast<std::byte*>(value.data()) + p.size - 1;
+        *last &= std::byte{0x7f};
+    } else
+        p.randomise(value.data(), 1, random);
+}
+
+std::size_t vectorBytes(const Call& call, const Parameter& p, int length)
+{
+    const Export& e = call.target();
+    const auto n = static_cast<std::size_t>(length);
+    if (p.role == Role::result) return p.size;
+    if (nameHas(e, "_1u")) {
+        const bool source = p.role == Role::source;
+        const Parameter* offset = e.find(source ? "srcBitOffset" : "dstBitOffset");
+        const auto index = static_cast<std::size_t>(offset - e.parameters.data());
+        return (static_cast<std::size_t>(call.arguments[index].get<int>() % 8) + n + 7) / 8;
+    }
+    if (p.size == 1 && (nameHas(e, "24u") || nameHas(e, "24s"))) return 3 * n;
+    return n * p.size;
+}
+
+} // namespace
+
+Call::Call(const Export& e, int length, std::uint64_t seed)
+    : arguments(e.parameters.size()), before(e.parameters.size()), export_(e)
+{
+    Random random(seed);
+    for (std::size_t i = 0; i < e.parameters.size(); ++i) {
+        const Parameter& p = e.parameters[i];
+        if (p.role == Role::length)
+            arguments[i].set(length);
+        else if (p.role == Role::scalar)
+            setScalar(p, arguments[i], random);
+    }
+    for (std::size_t i = 0; i < e.parameters.size(); ++i) {
+        const Parameter& p = e.parameters[i];
+        if (!p.isPointer()) continue;
+        before[i].resize(vectorBytes(*this, p, length));
+        p.randomise(before[i].data(), before[i].size() / p.size, random);
+    }
+}
+
+Buffers::Buffers() : placed_(mostParameters)
+{
+    for (std::size_t i = 0; i < mostParameters; ++i) arenas_.push_back(std::make_unique<Arena>(mostBytes));
+}
+
+void Buffers::place(Call& call, std::size_t variation, bool atEnd)
+{
+    const auto& parameters = call.target().parameters;
+    for (std::size_t i = 0; i < parameters.size(); ++i) {
+        if (!parameters[i].isPointer()) continue;
+        // An odd step takes every vector through all its places, each at a pace of its own.
+        const std::size_t offset = (variation * (2 * i + 1) + i) * parameters[i].size % Arena::line;
+        placed_[i] = arenas_[i]->place(call.bytes(i), offset, atEnd);
+        std::memcpy(placed_[i], call.before[i].data(), call.bytes(i));
+        call.arguments[i].set(placed_[i]);
+    }
+}
+
+std::string Buffers::damage(const Call& call, bool destinationsToo) const
+{
+    const auto& parameters = call.target().parameters;
+    for (std::size_t i = 0; i < parameters.size(); ++i) {
+        const Parameter& p = parameters[i];
+        if (!p.isPointer()) continue;
+        if (!arenas_[i]->canariesAlive()) return "bytes around " + p.name + " were written";
+        if ((p.role == Role::source || destinationsToo) &&
+            std::memcmp(placed_[i], call.before[i].data(), call.bytes(i)) != 0)
+            return p.name + " was changed";
+    }
+    return {};
+}
+
+std::size_t variations(const Export& e)
+{
+    std::size_t smallest = Arena::line;
+    for (const auto& p : e.parameters)
+        if (p.isPointer() && p.role != Role::result) smallest = std::min(smallest, p.size);
+    return Arena::line / smallest;
+}
+
+} // namespace zors::contract

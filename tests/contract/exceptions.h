@@ -1,0 +1,36 @@
+// What the declarations do not tell: parameters with conditions of their own. Everything that a check does not
+// reach is listed in its output, with the reason given here or by the table of exports.
+#pragma once
+
+#include "exports.h"
+
+#include <optional>
+#include <string_view>
+
+namespace zors::contract {
+
+// Pointers that may be null, by the beginning of the function's name.
+struct Optional {
+    std::string_view function, parameter, reason;
+};
+inline constexpr Optional optionalPointers[] = {
+    {"zorsRealToCplx_", "pSrcRe", "either part may be missing; both missing is tested with the family"},
+    {"zorsRealToCplx_", "pSrcIm", "either part may be missing; both missing is tested with the family"},
+};
+
+// Least lengths other than 1.
+struct LeastLength {
+    std::string_view function;
+    int least;
+};
+inline constexpr LeastLength leastLengths[] = {{"zorsStdDev_", 2}, {"zorsMeanStdDev_", 2}};
+
+// Scalars with a forbidden value, found behind the lengths in the order of the arguments.
+struct Forbidden {
+    std::string_view parameter;
+    ZorStatus status;
+};
+inline constexpr Forbidden negatives[] = {
+    {"srcBitOffset", zorStsBadSize}, {"dstBitOffset", zorStsBadSize}, {"magn", zorStsBadJaehneMagnitude}};
+
+} // namespace zors::contract

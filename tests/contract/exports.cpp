@@ -1,0 +1,115 @@
+#include "exports.h"
+
+#include <algorithm>
+#include <sstream>
+#include <type_traits>
+
+#include <zors.h>
+
+namespace zors::contract {
+namespace {
+
+template <class T>
+void randomise(void* p, std::size_t count, Random& random)
+{
+    auto* element = static_cast<T*>(p);
+    for (std::size_t i = 0; i < count; ++i) element[i] = random.element<T>();
+}
+
+template <class T>
+bool setNegative(Value& value)
+{
+    if constexpr (std::is_signed_v<T>) value.set(static_cast<T>(-1));
+    return std::is_signed_v<T>;
+}
+
+// What a declaration's argument list says of each parameter: its type from the compiler, its name from the text.
+template <class A>
+Parameter parameter(const std::string& name)
+{
+    Parameter p{name};
+    if constexpr (std::is_pointer_v<A>) {
+        using T = std::remove_pointer_t<A>;
+        using Element = std::remove_const_t<T>;
+        if constexpr (requires { sizeof(Element); } && !std::is_pointer_v<Element> &&
+                      !std::is_void_v<Element>) {
+            p.size = sizeof(Element);
+            p.randomise = randomise<Element>;
+            if (std::is_const_v<T>)
+                p.role = Role::source;
+            else if (name.starts_with("pSrcDst"))
+                p.role = Role::inOut;
+            else if (name.starts_with("pDst"))
+                p.role = Role::destination;
+            else
+                p.role = Role::result;
+        }
+    } else {
+        p.size = sizeof(A);
+        p.randomise = randomise<A>;
+        p.setNegative = setNegative<A>;
+        p.role = name == "len" ? Role::length : Role::scalar;
+    }
+    return p;
+}
+
+std::vector<std::string> parameterNames(std::string list)
+{
+    std::vector<std::string> names;
+    std::istringstream text(list.substr(1, list.size() - 2));
+    for (std::string one; std::getline(text, one, ',');) {
+        const auto begin = one.find_last_of(" *") + 1;
+        names.push_back(one.substr(begin));
+    }
+    return names;
+}
+
+template <class R, class... A>
+Export makeExport(const char* name, const char* list, R (*)(A...))
+{
+    Export e;
+    e.name = name;
+    if constexpr (!std::is_same_v<R, ZorStatus>) {
+        e.unreachable = "returns no status";
+    } else {
+        const auto names = parameterNames(list);
+        std::size_t i = 0;
+        (e.parameters.push_back(parameter<A>(names.at(i++))), ...);
+        e.invoke = [](void* function, const Value* arguments) {
+            return [&]<std::size_t... I>(std::index_sequence<I...>)
+            {
+                return reinterpret_cast<R (*)(A...)>(function)(arguments[I].get<A>()...);
+            }
+            (std::index_sequence_for<A...>{});
+        };
+        const auto has = [&](Role role) {
+            return std::any_of(e.parameters.begin(), e.parameters.end(),
+                               [=](const Parameter& p) { return p.role == role; });
+        };
+        if (has(Role::unknown)) e.unreachable = "takes a record or rows of pointers";
+        if (!has(Role::length)) e.unreachable = "has no length";
+    }
+    return e;
+}
+
+} // namespace
+
+const Parameter* Export::find(const std::string& parameter) const
+{
+    for (const auto& p : parameters)
+        if (p.name == parameter) return &p;
+    return nullptr;
+}
+
+#undef ZORSAPI
+#define ZORSAPI(type, name, args) makeExport(#name, #args, &::name),
+
+const std::vector<Export>& exports()
+{
+    static const std::vector<Export> table = {
+#include <zors.h>
+    };
+    return table;
+}
+
+} // namespace zors::contract

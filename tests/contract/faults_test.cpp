@@ -1,0 +1,119 @@
+// Every fault that an argument can have, alone and with every other one: the first in the fixed order of the
+// checks is the status, and nothing is written.
+#include "call.h"
+#include "exceptions.h"
+#include "library.h"
+#include "options.h"
+#include "report.h"
+
+#include <algorithm>
+#include <climits>
+#include <gtest/gtest.h>
+
+namespace zors::contract {
+namespace {
+
+struct Fault {
+    std::size_t parameter;
+    int rank; // order of the checks: pointers, then lengths, then the others from left to right
+    ZorStatus status;
+    Value value;
+    std::string text;
+};
+
+template <class T>
+Fault fault(std::size_t parameter, int rank, ZorStatus status, T value, const std::string& text)
+{
+    Fault f{parameter, rank, status, {}, text};
+    f.value.set(value);
+    return f;
+}
+
+bool mayBeNull(const Export& e, const Parameter& p)
+{
+    return std::any_of(std::begin(optionalPointers), std::end(optionalPointers), [&](const Optional& o) {
+        return e.name.starts_with(o.function) && p.name == o.parameter;
+    });
+}
+
+int leastLength(const Export& e)
+{
+    for (const auto& l : leastLengths)
+        if (e.name.starts_with(l.function)) return l.least;
+    return 1;
+}
+
+std::vector<Fault> faultsOf(const Export& e)
+{
+    std::vector<Fault> faults;
+    for (std::size_t i = 0; i < e.parameters.size(); ++i) {
+        const Parameter& p = e.parameters[i];
+        const int later = 2 + static_cast<int>(i);
+        if (p.isPointer() && !mayBeNull(e, p))
+            faults.push_back(fault<void*>(i, 0, zorStsNullPointer, nullptr, p.name + " null"));
+        if (p.role == Role::length)
+            for (const int bad : {leastLength(e) - 1, -1, INT_MIN})
+                faults.push_back(fault(i, 1, zorStsBadSize, bad, "len " + std::to_string(bad)));
+        for (const auto& n : negatives) {
+            Value minus;
+            if (p.name == n.parameter && p.setNegative(minus))
+                faults.push_back({i, later, n.status, minus, p.name + " negative"});
+        }
+    }
+    return faults;
+}
+
+class Checker {
+public:
+    explicit Checker(const Library& library) : library_(library) {}
+
+    bool call(const Export& e, const Fault& one, const Fault& other)
+    {
+        Call call(e, 33, options.seed);
+        buffers_.place(call, 1, true);
+        call.arguments[one.parameter] = one.value;
+        call.arguments[other.parameter] = other.value;
+        const ZorStatus expected = other.rank < one.rank ? other.status : one.status;
+        const ZorStatus status = e.invoke(library_.function(e.name), call.arguments.data());
+        const std::string damage = buffers_.damage(call, true);
+        if (status == expected && damage.empty()) return true;
+        fail(one.text + ", " + other.text + ": status " + std::to_string(status) + " instead of " +
+             std::to_string(expected) + (damage.empty() ? "" : ", ") + damage);
+        return false;
+    }
+
+private:
+    const Library& library_;
+    Buffers buffers_;
+};
+
+TEST(Contract, Faults)
+{
+    Coverage coverage("Faults");
+    for (const auto& e : exports()) {
+        if (!coverage.covers(e)) continue;
+        const auto faults = faultsOf(e);
+        for (const auto& library : libraries()) {
+            if (!options.wantsVariant(library.name())) continue;
+            standing.variant = library.name().c_str();
+            standing.length = 33;
+            Checker checker(library);
+            for (std::size_t i = 0; i < faults.size(); ++i) {
+                coverage.count("single faults", 1);
+                bool good = checker.call(e, faults[i], faults[i]);
+                for (std::size_t j = i + 1; good && j < faults.size(); ++j) {
+                    if (faults[i].parameter == faults[j].parameter) continue;
+                    good = checker.call(e, faults[i], faults[j]);
+                    coverage.count("pairs of faults", 1);
+                }
+            }
+        }
+    }
+    for (const auto& o : optionalPointers)
+        for (const auto& e : exports())
+            if (e.name.starts_with(o.function))
+                coverage.leaveOut(e, std::string(o.parameter) + " null: " + std::string(o.reason));
+}
+
+} // namespace
+} // namespace zors::contract
