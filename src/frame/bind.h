@@ -28,6 +28,7 @@ struct Redirect {
     }
 #else
 #define ZORS_BIND(name, ...)                                                                                 \
-    [[gnu::section("zors_redirects_" ZORS_TEXT(ZORS_VARIANT)), gnu::used]]                                   \
-    constinit const ::zors::Redirect<decltype(::name)> redirect_##name{&::name##_arraddr, __VA_ARGS__};
+    [[gnu::section("zors_redirects_" ZORS_TEXT(ZORS_VARIANT)),                                               \
+      gnu::used]] constinit const ::zors::Redirect<decltype(::name)>                                         \
+        redirect_##name{&::name##_arraddr, __VA_ARGS__};
 #endif

@@ -28,11 +28,12 @@ inline Vec<std::uint32_t> unpack24(Vec<std::uint8_t> packed)
 #else
     // Element k stands k bytes too low.
     const auto element = [](unsigned k) {
-        return (__m128i)Vec<std::uint32_t>{k == 0 ? 0xffffffu : 0, k == 1 ? 0xffffffu : 0, k == 2 ? 0xffffffu : 0,
-                                           k == 3 ? 0xffffffu : 0};
+        return (__m128i)Vec<std::uint32_t>{k == 0 ? 0xffffffu : 0, k == 1 ? 0xffffffu : 0,
+                                           k == 2 ? 0xffffffu : 0, k == 3 ? 0xffffffu : 0};
     };
     const auto v = (__m128i)packed;
-    const __m128i low = _mm_or_si128(_mm_and_si128(v, element(0)), _mm_and_si128(_mm_slli_si128(v, 1), element(1)));
+    const __m128i low =
+        _mm_or_si128(_mm_and_si128(v, element(0)), _mm_and_si128(_mm_slli_si128(v, 1), element(1)));
     const __m128i high = _mm_or_si128(_mm_and_si128(_mm_slli_si128(v, 2), element(2)),
                                       _mm_and_si128(_mm_slli_si128(v, 3), element(3)));
     return (Vec<std::uint32_t>)_mm_or_si128(low, high);
@@ -53,9 +54,9 @@ inline Vec<std::uint8_t> pack24(Vec<std::uint32_t> v)
     return bitsAs<std::uint8_t>(permute<Gather>(narrow));
 #else
     const auto element = [v](unsigned k) {
-        return _mm_and_si128((__m128i)v, (__m128i)Vec<std::uint32_t>{
-                                             k == 0 ? 0xffffffu : 0, k == 1 ? 0xffffffu : 0,
-                                             k == 2 ? 0xffffffu : 0, k == 3 ? 0xffffffu : 0});
+        return _mm_and_si128((__m128i)v,
+                             (__m128i)Vec<std::uint32_t>{k == 0 ? 0xffffffu : 0, k == 1 ? 0xffffffu : 0,
+                                                         k == 2 ? 0xffffffu : 0, k == 3 ? 0xffffffu : 0});
     };
     const __m128i low = _mm_or_si128(element(0), _mm_srli_si128(element(1), 1));
     const __m128i high = _mm_or_si128(_mm_srli_si128(element(2), 2), _mm_srli_si128(element(3), 3));

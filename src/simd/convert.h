@@ -97,7 +97,8 @@ inline Vec<T, N> rounded(Vec<float, N> v)
         const auto odd = (r & 1) != 0;
         r = r - ((rest > 0.5f) | ((rest == 0.5f) & odd)) + ((rest < -0.5f) | ((rest == -0.5f) & odd));
     }
-    if constexpr (std::is_same_v<T, std::uint32_t>) r = r ^ (upper & std::numeric_limits<std::int32_t>::min());
+    if constexpr (std::is_same_v<T, std::uint32_t>)
+        r = r ^ (upper & std::numeric_limits<std::int32_t>::min());
     return narrowed<T, N>(select(v >= highest, splat<std::int32_t, N>(static_cast<std::int32_t>(most)), r));
 }
 

@@ -86,24 +86,36 @@ inline void blocks(std::ptrdiff_t len, Body body)
     if (i < len) body(Part<N>{i, static_cast<int>(len - i)});
 }
 
-// A destination of this many bytes is written past the caches: it would displace everything else in them.
-inline constexpr std::ptrdiff_t streamedBytes = std::ptrdiff_t{4} << 20;
+// A destination of this many bytes is written past the caches. Measured: shorter ones, and their sources, still
+// fit into the last level and are faster through it.
+inline constexpr std::ptrdiff_t streamedBytes = std::ptrdiff_t{12} << 20;
 
-// The same steps for a body whose only stores go to pDst; a long destination is streamed. The destination must
-// not be a source as well.
-template <int N, class T, class Body>
-inline void blocksInto(T* pDst, std::ptrdiff_t len, Body body)
+// Kept out of line: the short vectors pay for none of it.
+template <int N, class Body>
+[[gnu::noinline]] void streamedBlocks(std::ptrdiff_t head, std::ptrdiff_t len, Body body)
 {
-    constexpr auto size = static_cast<std::ptrdiff_t>(sizeof(T));
-    const auto toAligned = -reinterpret_cast<std::intptr_t>(pDst) & (vectorBytes - 1);
-    if (len * size < streamedBytes || toAligned % size != 0) return blocks<N>(len, body);
-
-    const std::ptrdiff_t head = toAligned / size;
     if (head > 0) body(Part<N>{0, static_cast<int>(head)});
     std::ptrdiff_t i = head;
     for (; i + N <= len; i += N) body(Streamed<N>{i});
     if (i < len) body(Part<N>{i, static_cast<int>(len - i)});
     streamFence();
+}
+
+// The same steps for a body that stores to nothing but the destinations; if they are long and reach an aligned
+// address together they are streamed. A destination must not be a source as well.
+template <int N, class Body, class T, class... More>
+inline void blocksInto(std::ptrdiff_t len, Body body, T* pDst, More*... more)
+{
+    constexpr auto size = static_cast<std::ptrdiff_t>(sizeof(T));
+    if (len * size >= streamedBytes) {
+        const auto toAligned = [](const void* p) {
+            return -reinterpret_cast<std::intptr_t>(p) & (vectorBytes - 1);
+        };
+        const std::ptrdiff_t gap = toAligned(pDst);
+        if (gap % size == 0 && ((toAligned(more) == gap) && ...))
+            return streamedBlocks<N>(gap / size, len, body);
+    }
+    blocks<N>(len, body);
 }
 
 } // namespace zors::ZORS_VARIANT

@@ -37,12 +37,15 @@ inline Vec<T, N> loadMasked(const T* p, std::uint64_t m)
     constexpr int bytes = N * static_cast<int>(sizeof(T));
     if constexpr (bytes == 64) {
         if constexpr (sizeof(T) == 1) return (Vec<T, N>)_mm512_maskz_loadu_epi8(m, p);
-        if constexpr (sizeof(T) == 2) return (Vec<T, N>)_mm512_maskz_loadu_epi16(static_cast<__mmask32>(m), p);
-        if constexpr (sizeof(T) == 4) return (Vec<T, N>)_mm512_maskz_loadu_epi32(static_cast<__mmask16>(m), p);
+        if constexpr (sizeof(T) == 2)
+            return (Vec<T, N>)_mm512_maskz_loadu_epi16(static_cast<__mmask32>(m), p);
+        if constexpr (sizeof(T) == 4)
+            return (Vec<T, N>)_mm512_maskz_loadu_epi32(static_cast<__mmask16>(m), p);
         if constexpr (sizeof(T) == 8) return (Vec<T, N>)_mm512_maskz_loadu_epi64(static_cast<__mmask8>(m), p);
     } else if constexpr (bytes == 32) {
         if constexpr (sizeof(T) == 1) return (Vec<T, N>)_mm256_maskz_loadu_epi8(static_cast<__mmask32>(m), p);
-        if constexpr (sizeof(T) == 2) return (Vec<T, N>)_mm256_maskz_loadu_epi16(static_cast<__mmask16>(m), p);
+        if constexpr (sizeof(T) == 2)
+            return (Vec<T, N>)_mm256_maskz_loadu_epi16(static_cast<__mmask16>(m), p);
         if constexpr (sizeof(T) == 4) return (Vec<T, N>)_mm256_maskz_loadu_epi32(static_cast<__mmask8>(m), p);
     } else {
         // Sixteen bytes are loaded, of which the vector may be the first part.

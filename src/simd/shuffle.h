@@ -9,9 +9,11 @@ namespace zors::ZORS_VARIANT {
 template <class Map, class V>
 inline V permute(V a, V b)
 {
-    return []<int... I>(V x, V y, std::integer_sequence<int, I...>) {
+    return []<int... I>(V x, V y, std::integer_sequence<int, I...>)
+    {
         return __builtin_shufflevector(x, y, Map{}(I)...);
-    }(a, b, std::make_integer_sequence<int, lanesOf<V>>{});
+    }
+    (a, b, std::make_integer_sequence<int, lanesOf<V>>{});
 }
 
 template <class Map, class V>

@@ -37,13 +37,17 @@ inline constexpr int lanesOf = static_cast<int>(sizeof(V) / sizeof(ElementOf<V>)
 template <int Size>
 struct UnsignedOf;
 template <>
-struct UnsignedOf<1> : std::type_identity<std::uint8_t> {};
+struct UnsignedOf<1> : std::type_identity<std::uint8_t> {
+};
 template <>
-struct UnsignedOf<2> : std::type_identity<std::uint16_t> {};
+struct UnsignedOf<2> : std::type_identity<std::uint16_t> {
+};
 template <>
-struct UnsignedOf<4> : std::type_identity<std::uint32_t> {};
+struct UnsignedOf<4> : std::type_identity<std::uint32_t> {
+};
 template <>
-struct UnsignedOf<8> : std::type_identity<std::uint64_t> {};
+struct UnsignedOf<8> : std::type_identity<std::uint64_t> {
+};
 
 // Every lane the same value.
 template <class T, int N = lanes<T>>
@@ -56,9 +60,11 @@ inline Vec<T, N> splat(T value)
 template <class T, int N = lanes<T>>
 inline Vec<T, N> iota()
 {
-    return []<int... I>(std::integer_sequence<int, I...>) {
+    return []<int... I>(std::integer_sequence<int, I...>)
+    {
         return Vec<T, N>{static_cast<T>(I)...};
-    }(std::make_integer_sequence<int, N>{});
+    }
+    (std::make_integer_sequence<int, N>{});
 }
 
 // The vector's bits as lanes of another type.

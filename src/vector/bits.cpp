@@ -53,7 +53,8 @@ std::ptrdiff_t copyWords(const Zor8u* pSrc, std::ptrdiff_t from, Zor8u* pDst, st
     std::ptrdiff_t done = 0;
     for (; done + 64 <= len; done += 64, p += 8, pDst += 8) {
         // Nine bytes hold the 64 bits; two words that overlap read just these.
-        const Zor64u word = Order::toFront(Order::word(p), shift) | Order::toBack(Order::word(p + 1), 8 - shift);
+        const Zor64u word =
+            Order::toFront(Order::word(p), shift) | Order::toBack(Order::word(p + 1), 8 - shift);
         const Zor64u bytes = Order::bytes(word);
         std::memcpy(pDst, &bytes, sizeof bytes);
     }
@@ -63,8 +64,9 @@ std::ptrdiff_t copyWords(const Zor8u* pSrc, std::ptrdiff_t from, Zor8u* pDst, st
 template <class Order>
 ZorStatus copyBits(const Zor8u* pSrc, int srcBitOffset, Zor8u* pDst, int dstBitOffset, int len)
 {
-    if (const ZorStatus bad = check(pointers(pSrc, pDst), length(len), require(srcBitOffset >= 0, zorStsBadSize),
-                                    require(dstBitOffset >= 0, zorStsBadSize)))
+    if (const ZorStatus bad =
+            check(pointers(pSrc, pDst), length(len), require(srcBitOffset >= 0, zorStsBadSize),
+                  require(dstBitOffset >= 0, zorStsBadSize)))
         return bad;
     std::ptrdiff_t from = srcBitOffset % 8;
     std::ptrdiff_t to = dstBitOffset % 8;

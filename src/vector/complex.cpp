@@ -1,6 +1,6 @@
+#include "simd/complex.h"
 #include "frame/bind.h"
 #include "simd/check.h"
-#include "simd/complex.h"
 
 namespace zors::ZORS_VARIANT {
 namespace {
@@ -18,7 +18,8 @@ template <class C>
 ZorStatus real(const C* pSrc, PartOf<C>* pDst, int len)
 {
     if (const ZorStatus bad = check(pointers(pSrc, pDst), length(len))) return bad;
-    blocksInto<lanes<PartOf<C>>>(pDst, len, [=](auto at) { store(pDst, at, loadPairs(parts(pSrc), at).first); });
+    blocksInto<lanes<PartOf<C>>>(
+        len, [=](auto at) { store(pDst, at, loadPairs(parts(pSrc), at).first); }, pDst);
     return zorStsOk;
 }
 
@@ -26,7 +27,8 @@ template <class C>
 ZorStatus imag(const C* pSrc, PartOf<C>* pDst, int len)
 {
     if (const ZorStatus bad = check(pointers(pSrc, pDst), length(len))) return bad;
-    blocksInto<lanes<PartOf<C>>>(pDst, len, [=](auto at) { store(pDst, at, loadPairs(parts(pSrc), at).second); });
+    blocksInto<lanes<PartOf<C>>>(
+        len, [=](auto at) { store(pDst, at, loadPairs(parts(pSrc), at).second); }, pDst);
     return zorStsOk;
 }
 
@@ -34,22 +36,25 @@ template <class C>
 ZorStatus cplxToReal(const C* pSrc, PartOf<C>* pDstRe, PartOf<C>* pDstIm, int len)
 {
     if (const ZorStatus bad = check(pointers(pSrc, pDstRe, pDstIm), length(len))) return bad;
-    blocks<lanes<PartOf<C>>>(len, [=](auto at) {
+    const auto body = [=](auto at) {
         const auto v = loadPairs(parts(pSrc), at);
         store(pDstRe, at, v.first);
         store(pDstIm, at, v.second);
-    });
+    };
+    blocksInto<lanes<PartOf<C>>>(len, body, pDstRe, pDstIm);
     return zorStsOk;
 }
 
 template <class C, class T = PartOf<C>>
 ZorStatus realToCplx(const T* pSrcRe, const T* pSrcIm, C* pDst, int len)
 {
-    if (const ZorStatus bad = check(pointers(pDst), require(pSrcRe || pSrcIm, zorStsNullPointer), length(len)))
+    if (const ZorStatus bad =
+            check(pointers(pDst), require(pSrcRe || pSrcIm, zorStsNullPointer), length(len)))
         return bad;
     constexpr int n = lanes<T>;
     const auto join = [=](auto loadRe, auto loadIm) {
-        blocksInto<n>(pDst, len, [=](auto at) { storePairs(reinterpret_cast<T*>(pDst), at, loadRe(at), loadIm(at)); });
+        blocksInto<n>(
+            len, [=](auto at) { storePairs(reinterpret_cast<T*>(pDst), at, loadRe(at), loadIm(at)); }, pDst);
     };
     const auto re = [=](auto at) { return load(pSrcRe, at); };
     const auto im = [=](auto at) { return load(pSrcIm, at); };

@@ -1,7 +1,7 @@
+#include "simd/convert.h"
 #include "frame/bind.h"
 #include "scale.h"
 #include "simd/check.h"
-#include "simd/convert.h"
 #include "simd/loop.h"
 
 namespace zors::ZORS_VARIANT {
@@ -13,7 +13,8 @@ ZorStatus convert16s32f(const Zor16s* pSrc, Zor32f* pDst, int len, int scaleFact
 {
     if (const ZorStatus bad = check(pointers(pSrc, pDst), length(len))) return bad;
     const Scale scale(scaleFactor);
-    blocksInto<step>(pDst, len, [=](auto at) { store(pDst, at, scale(toFloat<step>(load(pSrc, at)))); });
+    blocksInto<step>(
+        len, [=](auto at) { store(pDst, at, scale(toFloat<step>(load(pSrc, at)))); }, pDst);
     return zorStsOk;
 }
 

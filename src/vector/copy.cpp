@@ -15,7 +15,8 @@ std::ptrdiff_t bytesOf(int len)
 
 void copyBytes(const Zor8u* pSrc, Zor8u* pDst, std::ptrdiff_t count)
 {
-    blocksInto<lanes<Zor8u>>(pDst, count, [=](auto at) { store(pDst, at, load(pSrc, at)); });
+    blocksInto<lanes<Zor8u>>(
+        count, [=](auto at) { store(pDst, at, load(pSrc, at)); }, pDst);
 }
 
 template <class T>
@@ -30,7 +31,15 @@ template <class T>
 ZorStatus move(const T* pSrc, T* pDst, int len)
 {
     if (const ZorStatus bad = check(pointers(pSrc, pDst), length(len))) return bad;
-    std::memmove(pDst, pSrc, static_cast<std::size_t>(bytesOf<T>(len)));
+    const auto* from = reinterpret_cast<const Zor8u*>(pSrc);
+    auto* to = reinterpret_cast<Zor8u*>(pDst);
+    const std::ptrdiff_t bytes = bytesOf<T>(len);
+    // Upwards is safe unless the destination starts inside the source.
+    if (reinterpret_cast<std::uintptr_t>(to) - reinterpret_cast<std::uintptr_t>(from) >=
+        static_cast<std::uintptr_t>(bytes))
+        copyBytes(from, to, bytes);
+    else
+        std::memmove(to, from, static_cast<std::size_t>(bytes));
     return zorStsOk;
 }
 

@@ -35,7 +35,8 @@ ZorStatus flip(const T* pSrc, T* pDst, int len)
     const std::ptrdiff_t n = std::ptrdiff_t{len} * U::each;
     const auto* pEnd = reinterpret_cast<const typename U::type*>(pSrc) + n;
     auto* p = reinterpret_cast<typename U::type*>(pDst);
-    blocksInto<U::step>(p, n, [=](auto at) { store(p, at, loadMirrored<size>(pEnd, at)); });
+    blocksInto<U::step>(
+        n, [=](auto at) { store(p, at, loadMirrored<size>(pEnd, at)); }, p);
     return zorStsOk;
 }
 
@@ -55,9 +56,11 @@ ZorStatus flipInPlace(T* pSrcDst, int len)
     }
     // Fewer than n units on either side of the middle element.
     const int side = static_cast<int>(end - first) / U::each / 2 * U::each;
-    const auto low = loadFirst<n>(p + first, side), high = loadLast<n>(p + end - side, side);
-    storeFirst<n>(p + first, reversed<size>(high), side);
-    storeLast<n>(p + end - side, reversed<size>(low), side);
+    if (side > 0) {
+        const auto low = loadFirst<n>(p + first, side), high = loadLast<n>(p + end - side, side);
+        storeFirst<n>(p + first, reversed<size>(high), side);
+        storeLast<n>(p + end - side, reversed<size>(low), side);
+    }
     return zorStsOk;
 }
 
@@ -69,7 +72,7 @@ ZorStatus swapBytes(const T* pSrc, T* pDst, int len)
     if (pSrc == pDst)
         blocks<lanes<T>>(len, body);
     else
-        blocksInto<lanes<T>>(pDst, len, body);
+        blocksInto<lanes<T>>(len, body, pDst);
     return zorStsOk;
 }
 
@@ -79,10 +82,45 @@ ZorStatus swapBytesInPlace(T* pSrcDst, int len)
     return swapBytes(static_cast<const T*>(pSrcDst), pSrcDst, len);
 }
 
+// Vector K of three that start with an element: a byte comes from two behind it, from its own place or from two
+// before it, so that no lane changes its place.
+template <int K>
+Vec<Zor8u> swapped24(const Zor8u* p)
+{
+    constexpr int n = vectorBytes;
+    struct Middle {
+        constexpr int operator()(int i) const { return (K * n + i) % 3 == 1 ? i : n + i; }
+    };
+    struct Last {
+        constexpr int operator()(int i) const { return (K * n + i) % 3 == 2 ? i : n + i; }
+    };
+    p += K * n;
+    const auto firstTwo = permute<Middle>(load<n>(p), load<n>(p + 2));
+    return permute<Last>(load<n>(p - 2), firstTwo);
+}
+
 ZorStatus swapBytes24(const Zor8u* pSrc, Zor8u* pDst, int len)
 {
     if (const ZorStatus bad = check(pointers(pSrc, pDst), length(len))) return bad;
-    blocks<lanes24>(len, [=](auto at) { store24(pDst, at, byteSwapped(load24(pSrc, at)) >> 8); });
+    constexpr int n = vectorBytes;
+    const auto few = [=](std::ptrdiff_t from, std::ptrdiff_t count) {
+        blocks<lanes24>(count, [p = pSrc + 3 * from, q = pDst + 3 * from](auto at) {
+            store24(q, at, byteSwapped(load24(p, at)) >> 8);
+        });
+    };
+    // The threes reach two bytes beyond their elements on either side.
+    const int first = len < lanes24 ? len : lanes24;
+    few(0, first);
+    std::ptrdiff_t i = first;
+    for (; i + n < len; i += n) {
+        const Zor8u* p = pSrc + 3 * i;
+        const auto a = swapped24<0>(p), b = swapped24<1>(p), c = swapped24<2>(p);
+        Zor8u* q = pDst + 3 * i;
+        store<n>(q, a);
+        store<n>(q + n, b);
+        store<n>(q + 2 * n, c);
+    }
+    few(i, len - i);
     return zorStsOk;
 }
 

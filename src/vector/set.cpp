@@ -18,7 +18,8 @@ template <class T>
 ZorStatus zero(T* pDst, int len)
 {
     if (const ZorStatus bad = check(pointers(pDst), length(len))) return bad;
-    fill(Zor8u{0}, reinterpret_cast<Zor8u*>(pDst), std::ptrdiff_t{len} * static_cast<std::ptrdiff_t>(sizeof(T)));
+    fill(Zor8u{0}, reinterpret_cast<Zor8u*>(pDst),
+         std::ptrdiff_t{len} * static_cast<std::ptrdiff_t>(sizeof(T)));
     return zorStsOk;
 }
 

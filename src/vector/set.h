@@ -2,31 +2,48 @@
 #pragma once
 
 #include "simd/loop.h"
+#include "simd/shuffle.h"
 
-#include <cstring>
+#include <zortypes.h>
+
+#include <bit>
 
 namespace zors::ZORS_VARIANT {
 
-// A native vector full of a value of up to 16 bytes.
-template <class Unit, class T>
-inline Vec<Unit> repeated(T value)
+// Elements of up to 8 bytes are moved as one unsigned lane, longer ones as their real and imaginary parts.
+template <class T>
+struct FillLane : UnsignedOf<sizeof(T)> {
+};
+template <>
+struct FillLane<Zor64sc> : std::type_identity<Zor64s> {
+};
+template <>
+struct FillLane<Zor64fc> : std::type_identity<Zor64f> {
+};
+
+template <class T>
+inline auto repeated(T value)
 {
-    constexpr int n = static_cast<int>(sizeof(T) / sizeof(Unit));
-    Unit units[n];
-    std::memcpy(units, &value, sizeof value);
-    return [&]<int... I>(std::integer_sequence<int, I...>) {
-        return Vec<Unit>{units[I % n]...};
-    }(std::make_integer_sequence<int, lanes<Unit>>{});
+    using Lane = typename FillLane<T>::type;
+    if constexpr (sizeof(T) == sizeof(Lane)) {
+        return splat(std::bit_cast<Lane>(value));
+    } else {
+        struct Alternate {
+            constexpr int operator()(int i) const { return i % 2 == 0 ? i : lanes<Lane> + i; }
+        };
+        return permute<Alternate>(splat(value.re), splat(value.im));
+    }
 }
 
 template <class T>
 inline void fill(T value, T* pDst, std::ptrdiff_t len)
 {
-    using Unit = typename UnsignedOf<(sizeof(T) < 8 ? sizeof(T) : 8)>::type;
-    constexpr auto units = static_cast<std::ptrdiff_t>(sizeof(T) / sizeof(Unit));
-    const Vec<Unit> v = repeated<Unit>(value);
-    auto* p = reinterpret_cast<Unit*>(pDst);
-    blocksInto<lanes<Unit>>(p, len * units, [=](auto at) { store(p, at, v); });
+    using Lane = typename FillLane<T>::type;
+    constexpr auto each = static_cast<std::ptrdiff_t>(sizeof(T) / sizeof(Lane));
+    const Vec<Lane> v = repeated(value);
+    auto* p = reinterpret_cast<Lane*>(pDst);
+    blocksInto<lanes<Lane>>(
+        len * each, [=](auto at) { store(p, at, v); }, p);
 }
 
 } // namespace zors::ZORS_VARIANT
