@@ -2,7 +2,6 @@
 #pragma once
 
 #include "simd/loop.h"
-#include "simd/shuffle.h"
 
 #include <zortypes.h>
 
@@ -28,10 +27,8 @@ inline auto repeated(T value)
     if constexpr (sizeof(T) == sizeof(Lane)) {
         return splat(std::bit_cast<Lane>(value));
     } else {
-        struct Alternate {
-            constexpr int operator()(int i) const { return i % 2 == 0 ? i : lanes<Lane> + i; }
-        };
-        return permute<Alternate>(splat(value.re), splat(value.im));
+        const auto odd = (iota<Zor64s>() & 1) != 0;
+        return odd ? splat(value.im) : splat(value.re);
     }
 }
 
