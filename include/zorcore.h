@@ -11,6 +11,7 @@
  * A bit is set only when the processor has the instructions and the operating system keeps their registers.
  * @{
  */
+/** The instruction-set extension of this name may be used. */
 #define ZOR_CPU_SSE UINT64_C(0x1)
 #define ZOR_CPU_SSE2 UINT64_C(0x2)
 #define ZOR_CPU_SSE3 UINT64_C(0x4)

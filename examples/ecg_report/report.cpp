@@ -1,0 +1,55 @@
+#include "report.h"
+
+#include "statistics.h"
+
+#include <algorithm>
+#include <cstdio>
+
+namespace ecg {
+namespace {
+
+constexpr int segmentSeconds = 10;
+
+void printLine(const std::string& label, const Statistics& s)
+{
+    char stdDev[32] = "-";
+    if (s.stdDev) std::snprintf(stdDev, sizeof stdDev, "%.3f", static_cast<double>(*s.stdDev));
+    std::printf("%-15s %9.3f %9s %9.3f %9.3f\n", label.c_str(), static_cast<double>(s.mean), stdDev,
+                static_cast<double>(s.range.min), static_cast<double>(s.range.max));
+}
+
+std::string secondsLabel(double begin, double end)
+{
+    char label[48];
+    std::snprintf(label, sizeof label, "%g - %g s", begin, end);
+    return label;
+}
+
+void printChannel(const Channel& channel, int rate)
+{
+    std::printf("%-15s %9s %9s %9s %9s\n", "millivolts", "mean", "std dev", "min", "max");
+    printLine("whole", statisticsOf(channel.all()));
+    const Zor64s step = Zor64s{segmentSeconds} * rate;
+    for (Zor64s begin = 0; begin < channel.len(); begin += step) {
+        const Zor64s end = std::min<Zor64s>(begin + step, channel.len());
+        printLine(secondsLabel(static_cast<double>(begin) / rate, static_cast<double>(end) / rate),
+                  statisticsOf(channel.part(static_cast<int>(begin), static_cast<int>(end - begin))));
+    }
+}
+
+} // namespace
+
+void printReport(const std::string& name, const Recording& recording)
+{
+    std::printf("%s: %.3f s, %d samples at %d Hz\n", name.c_str(), recording.seconds(), recording.len(),
+                recording.rate);
+    for (std::size_t i = 0; i < recording.channels.size(); ++i) {
+        if (recording.channels.size() == 1)
+            std::printf("\n");
+        else
+            std::printf("\nchannel %zu\n", i + 1);
+        printChannel(recording.channels[i], recording.rate);
+    }
+}
+
+} // namespace ecg

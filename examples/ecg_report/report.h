@@ -1,0 +1,13 @@
+// The report in words and figures.
+#pragma once
+
+#include "recording.h"
+
+#include <string>
+
+namespace ecg {
+
+// Prints duration and statistics, in all and for each ten seconds, to the standard output.
+void printReport(const std::string& name, const Recording& recording);
+
+} // namespace ecg

@@ -1,0 +1,28 @@
+#include "statistics.h"
+
+namespace ecg {
+
+Range rangeOf(std::span<const Zor32f> signal)
+{
+    Range range;
+    require(zorsMinMax_32f(signal.data(), static_cast<int>(signal.size()), &range.min, &range.max),
+            "find the range");
+    return range;
+}
+
+Statistics statisticsOf(std::span<const Zor32f> signal)
+{
+    if (signal.size() == 1) return {signal[0], std::nullopt, {signal[0], signal[0]}};
+    Zor32f mean, stdDev;
+    require(zorsMeanStdDev_32f(signal.data(), static_cast<int>(signal.size()), &mean, &stdDev),
+            "find mean and standard deviation");
+    return {mean, stdDev, rangeOf(signal)};
+}
+
+void removeOffset(Channel& channel)
+{
+    const Zor32f offset = statisticsOf(channel.all()).mean;
+    require(zorsSubC_32f_I(offset, channel.data(), channel.len()), "remove the offset");
+}
+
+} // namespace ecg
