@@ -4,7 +4,7 @@ set(ZORS_LIBRARY_OPTIONS
     -fvisibility=hidden -fvisibility-inlines-hidden -fno-exceptions -fno-rtti -fno-threadsafe-statics
     -ffp-contract=off -fno-math-errno -fno-trapping-math $<$<CONFIG:Release>:-O3>
     # g++ 12 takes the "undefined" operand inside its own intrinsics for an error of the caller.
-    $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
+    "$<$<CXX_COMPILER_ID:GNU>:-Wno-uninitialized;-Wno-maybe-uninitialized>")
 
 # The processor variants: vector width in bytes and instruction sets.
 set(ZORS_VARIANTS r5 avx2 avx512)
@@ -25,6 +25,10 @@ function(zors_variant_options target variant)
   target_include_directories(${target} PRIVATE ${zors_SOURCE_DIR}/src ${zors_SOURCE_DIR}/include)
 endfunction()
 
+# GNU binutils, whatever the compiler brings: the others lack the option to merge groups.
+find_program(ZORS_LD NAMES ld.bfd REQUIRED)
+find_program(ZORS_OBJCOPY NAMES objcopy REQUIRED)
+
 # zors_closed_object(OUT VARIANT SOURCES...): one object of a wider variant, all of whose symbols are local. Two
 # things force this: the linker may take any of several copies of an inline function, so the baseline could get
 # one that was compiled for a wider processor; and nothing outside should reach into a variant.
@@ -35,8 +39,8 @@ function(zors_closed_object out variant)
   set(object ${CMAKE_CURRENT_BINARY_DIR}/${target}.o)
   add_custom_command(
     OUTPUT ${object}
-    COMMAND ${CMAKE_LINKER} -r --force-group-allocation -o ${object}.open $<TARGET_OBJECTS:${target}>
-    COMMAND ${CMAKE_OBJCOPY} --keep-global-symbol=none ${object}.open ${object}
+    COMMAND ${ZORS_LD} -r --force-group-allocation -o ${object}.open $<TARGET_OBJECTS:${target}>
+    COMMAND ${ZORS_OBJCOPY} --keep-global-symbol=none ${object}.open ${object}
     COMMAND ${CMAKE_COMMAND} -E rm ${object}.open
     DEPENDS ${target} $<TARGET_OBJECTS:${target}>
     COMMAND_EXPAND_LISTS VERBATIM

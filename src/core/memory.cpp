@@ -8,15 +8,15 @@
 namespace {
 
 // One cache line, and the widest vector register.
-constexpr std::size_t alignment = 64;
+constexpr std::size_t line = 64;
 
 } // namespace
 
 ZORCORE_EXPORT void* zorMalloc(int size)
 {
     if (size < 1) return nullptr;
-    const std::size_t whole = (static_cast<std::size_t>(size) + alignment - 1) / alignment * alignment;
-    return std::aligned_alloc(alignment, whole);
+    const std::size_t whole = (static_cast<std::size_t>(size) + line - 1) / line * line;
+    return std::aligned_alloc(line, whole);
 }
 
 ZORCORE_EXPORT void zorFree(void* pMemory)

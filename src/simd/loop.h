@@ -102,8 +102,9 @@ template <int N, class Body>
 }
 
 // The same steps for a body that stores to nothing but the destinations; if they are long and reach an aligned
-// address together they are streamed. A destination must not be a source as well.
-template <int N, class Body, class T, class... More>
+// address together they are streamed. A destination must not be a source as well. Where an element is made of
+// several lanes, Each, every step starts with a whole element.
+template <int N, int Each = 1, class Body, class T, class... More>
 inline void blocksInto(std::ptrdiff_t len, Body body, T* pDst, More*... more)
 {
     constexpr auto size = static_cast<std::ptrdiff_t>(sizeof(T));
@@ -112,7 +113,7 @@ inline void blocksInto(std::ptrdiff_t len, Body body, T* pDst, More*... more)
             return -reinterpret_cast<std::intptr_t>(p) & (vectorBytes - 1);
         };
         const std::ptrdiff_t gap = toAligned(pDst);
-        if (gap % size == 0 && ((toAligned(more) == gap) && ...))
+        if (gap % (Each * size) == 0 && ((toAligned(more) == gap) && ...))
             return streamedBlocks<N>(gap / size, len, body);
     }
     blocks<N>(len, body);

@@ -35,7 +35,7 @@ ZorStatus flip(const T* pSrc, T* pDst, int len)
     const std::ptrdiff_t n = std::ptrdiff_t{len} * U::each;
     const auto* pEnd = reinterpret_cast<const typename U::type*>(pSrc) + n;
     auto* p = reinterpret_cast<typename U::type*>(pDst);
-    blocksInto<U::step>(
+    blocksInto<U::step, U::each>(
         n, [=](auto at) { store(p, at, loadMirrored<size>(pEnd, at)); }, p);
     return zorStsOk;
 }

@@ -36,10 +36,11 @@ template <class T>
 inline void fill(T value, T* pDst, std::ptrdiff_t len)
 {
     using Lane = typename FillLane<T>::type;
-    constexpr auto each = static_cast<std::ptrdiff_t>(sizeof(T) / sizeof(Lane));
+    constexpr int each = sizeof(T) / sizeof(Lane);
     const Vec<Lane> v = repeated(value);
     auto* p = reinterpret_cast<Lane*>(pDst);
-    blocksInto<lanes<Lane>>(
+    blocksInto<lanes<Lane>, each>(
+
         len * each, [=](auto at) { store(p, at, v); }, p);
 }
 

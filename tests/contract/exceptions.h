@@ -25,6 +25,9 @@ struct LeastLength {
 };
 inline constexpr LeastLength leastLengths[] = {{"zorsStdDev_", 2}, {"zorsMeanStdDev_", 2}};
 
+// Functions that check the length before the pointers.
+inline constexpr std::string_view lengthFirst[] = {"zorsAdd_16sc_", "zorsSub_16sc_"};
+
 // Scalars with a forbidden value, found behind the lengths in the order of the arguments.
 struct Forbidden {
     std::string_view parameter;

@@ -43,9 +43,16 @@ int leastLength(const Export& e)
     return 1;
 }
 
+bool checksLengthFirst(const Export& e)
+{
+    return std::any_of(std::begin(lengthFirst), std::end(lengthFirst),
+                       [&](std::string_view name) { return e.name.starts_with(name); });
+}
+
 std::vector<Fault> faultsOf(const Export& e)
 {
     std::vector<Fault> faults;
+    const int lengthRank = checksLengthFirst(e) ? -1 : 1;
     for (std::size_t i = 0; i < e.parameters.size(); ++i) {
         const Parameter& p = e.parameters[i];
         const int later = 2 + static_cast<int>(i);
@@ -53,7 +60,7 @@ std::vector<Fault> faultsOf(const Export& e)
             faults.push_back(fault<void*>(i, 0, zorStsNullPointer, nullptr, p.name + " null"));
         if (p.role == Role::length)
             for (const int bad : {leastLength(e) - 1, -1, INT_MIN})
-                faults.push_back(fault(i, 1, zorStsBadSize, bad, "len " + std::to_string(bad)));
+                faults.push_back(fault(i, lengthRank, zorStsBadSize, bad, "len " + std::to_string(bad)));
         for (const auto& n : negatives) {
             Value minus;
             if (p.name == n.parameter && p.setNegative(minus))

@@ -13,7 +13,7 @@ public:
     // Loads a copy of the library file of its own, with the processor's features masked for the variant.
     explicit Library(const test::Variant& variant);
 
-    std::string name() const { return name_; }
+    const std::string& name() const { return name_; }
     void* function(const std::string& name) const;
     // Where the function's slot points, counted from the start of the library: what tells variants apart.
     std::ptrdiff_t implementation(const std::string& name) const;

@@ -1,0 +1,56 @@
+// Vectors of random bits, placed as unluckily as a caller may place them.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <random>
+#include <vector>
+
+namespace zors::test {
+
+using Random = std::mt19937_64;
+
+// Elements that begin offset alignments of their type past a 64-byte boundary, between other random bytes.
+template <class T>
+class RandomVector {
+public:
+    RandomVector(std::ptrdiff_t len, std::ptrdiff_t offset, Random& random)
+        : offset_(offset * std::ptrdiff_t{alignof(T)}),
+          lines_(static_cast<std::size_t>(3 + (offset_ + len * std::ptrdiff_t{sizeof(T)}) / 64))
+    {
+        for (Line& line : lines_)
+            for (std::size_t at = 0; at < sizeof line; at += 8) {
+                const std::uint64_t bits = random();
+                std::memcpy(line.bytes + at, &bits, sizeof bits);
+            }
+    }
+
+    T* data() { return reinterpret_cast<T*>(lines_[1].bytes + offset_); }
+    const T* data() const { return reinterpret_cast<const T*>(lines_[1].bytes + offset_); }
+
+    bool operator==(const RandomVector& other) const
+    {
+        return std::memcmp(lines_.data(), other.lines_.data(), lines_.size() * sizeof(Line)) == 0;
+    }
+
+    // Where two vectors, or what surrounds them, first differ, in bytes from the first element.
+    std::ptrdiff_t firstDifference(const RandomVector& other) const
+    {
+        std::ptrdiff_t at = -64 - offset_;
+        const auto* here = reinterpret_cast<const std::byte*>(data());
+        const auto* there = reinterpret_cast<const std::byte*>(other.data());
+        while (here[at] == there[at]) ++at;
+        return at;
+    }
+
+private:
+    struct alignas(64) Line {
+        std::byte bytes[64];
+    };
+
+    std::ptrdiff_t offset_;
+    std::vector<Line> lines_;
+};
+
+} // namespace zors::test

@@ -1,0 +1,54 @@
+#include "support/oracle.h"
+
+#include <zors.h>
+
+#include <cmath>
+#include <limits>
+#include <numbers>
+#include <type_traits>
+
+namespace {
+
+using namespace zors::test;
+
+template <class T>
+T elementOf(double value)
+{
+    if constexpr (std::is_floating_point_v<T>) return static_cast<T>(value);
+    if (std::is_unsigned_v<T> && value < 0) return 0;
+    return static_cast<T>(value > 0 ? value + 0.5 : value - 0.5);
+}
+
+template <class T>
+void expectJaehne(ZorStatus (*function)(T*, int, T))
+{
+    for (const T magn : {T{0}, T{1}, T{100}, std::numeric_limits<T>::max()})
+        expectSame<T, T>([=](auto*, T* pDst, int len) { return function(pDst, len, magn); },
+                         [=](auto*, T* pDst, int len) {
+                             for (int n = 0; n < len; ++n)
+                                 pDst[n] = elementOf<T>(static_cast<double>(magn) *
+                                                        std::sin(std::numbers::pi / 2 / len * n * n));
+                         },
+                         {}, Lengths::small);
+    if constexpr (std::is_signed_v<T>) {
+        T dst = 7;
+        EXPECT_EQ(function(nullptr, 0, T{-1}), zorStsNullPointer);
+        EXPECT_EQ(function(&dst, 0, T{-1}), zorStsBadSize);
+        EXPECT_EQ(function(&dst, 1, T{-1}), zorStsBadJaehneMagnitude);
+        EXPECT_EQ(dst, 7);
+    }
+}
+
+TEST(Jaehne, IsASineOfRisingFrequency)
+{
+    expectJaehne(zorsVectorJaehne_8u);
+    expectJaehne(zorsVectorJaehne_8s);
+    expectJaehne(zorsVectorJaehne_16u);
+    expectJaehne(zorsVectorJaehne_16s);
+    expectJaehne(zorsVectorJaehne_32u);
+    expectJaehne(zorsVectorJaehne_32s);
+    expectJaehne(zorsVectorJaehne_32f);
+    expectJaehne(zorsVectorJaehne_64f);
+}
+
+} // namespace

@@ -1,0 +1,159 @@
+#include "support/oracle.h"
+
+#include <zors.h>
+
+#include <algorithm>
+#include <cfloat>
+#include <cmath>
+#include <limits>
+#include <type_traits>
+
+namespace {
+
+using namespace zors::test;
+
+template <class T>
+using Generator = ZorStatus (*)(T*, int, Zor32f, Zor32f);
+
+template <class T>
+T elementOf(Zor32f value)
+{
+    if constexpr (std::is_floating_point_v<T>) return value;
+    if (std::isnan(value)) return 0;
+    const double wide = value;
+    const double rounded = std::trunc(wide > 0 ? wide + 0.5 : wide - 0.5);
+    using Limits = std::numeric_limits<T>;
+    if (rounded >= static_cast<double>(Limits::max())) return Limits::max();
+    if (rounded <= static_cast<double>(Limits::min())) return Limits::min();
+    return static_cast<T>(rounded);
+}
+
+struct Straight {
+    Zor32f offset, slope;
+};
+
+template <class T>
+void expectLine(Generator<T> function, Straight line, Lengths lengths = Lengths::small)
+{
+    SCOPED_TRACE(testing::Message() << "offset " << line.offset << ", slope " << line.slope);
+    expectSame<T, T>([=](auto*, T* pDst, int len) { return function(pDst, len, line.offset, line.slope); },
+                     [=](auto*, T* pDst, int len) {
+                         for (int n = 0; n < len; ++n)
+                             pDst[n] = elementOf<T>(static_cast<Zor32f>(n) * line.slope + line.offset);
+                     },
+                     {}, lengths);
+}
+
+template <class T>
+void expectLines(Generator<T> ramp, Generator<T> slope)
+{
+    constexpr Zor32f infinity = std::numeric_limits<Zor32f>::infinity(), nan = NAN;
+    constexpr Straight lines[] = {
+        // half-way values, and the last ones before them
+        {0.5f, 0},
+        {-0.5f, 0},
+        {0, 0.5f},
+        {100.5f, -1},
+        {0.49999997f, 0},
+        {-0.49999997f, 1},
+        {8388607.5f, -0.5f},
+        // through, along and just inside each type's range
+        {-300.25f, 2.3f},
+        {300, -2.3f},
+        {-40000, 300},
+        {70000, -500},
+        {-3e9f, 5e7f},
+        {6e9f, -7e7f},
+        {127, -1e-6f},
+        {254.5f, 0.004f},
+        {32767.5f, -0.004f},
+        {65535, 0.004f},
+        {2147483520, 64},
+        {4294967040, 64},
+        {40000, 0},
+        {-5e9f, 0},
+        {-0.0f, 0},
+        {-0.0f, -0.0f},
+        {0, 1e-40f},
+        // beyond single precision
+        {FLT_MAX, FLT_MAX},
+        {-FLT_MAX, FLT_MAX / 100},
+        {infinity, 0},
+        {infinity, -1},
+        {-infinity, 1},
+        {0, infinity},
+        {0, -infinity},
+        {1, nan},
+    };
+    for (const Straight line : lines) {
+        expectLine(ramp, line);
+        expectLine(slope, line);
+    }
+    Random random;
+    std::uniform_real_distribution<float> exponent(-8, 33), sign(-1, 1);
+    for (int i = 0; i < 100; ++i) {
+        const float offset = std::copysign(std::exp2(exponent(random)), sign(random));
+        const float rise = std::copysign(std::exp2(exponent(random) - 7), sign(random));
+        expectLine(ramp, {offset, rise});
+        expectLine(slope, {offset, rise});
+    }
+    expectLine(ramp, {-100, 0.01f}, Lengths::smallAndLong);
+    expectLine(slope, {100, 0}, Lengths::smallAndLong);
+    expectLine(slope, {-1000, 0.01f}, Lengths::smallAndLong);
+}
+
+TEST(Line, RoundsHalfAwayAndSaturates8)
+{
+    expectLines(zorsVectorRamp_8u, zorsVectorSlope_8u);
+    expectLines(zorsVectorRamp_8s, zorsVectorSlope_8s);
+}
+
+TEST(Line, RoundsHalfAwayAndSaturates16)
+{
+    expectLines(zorsVectorRamp_16u, zorsVectorSlope_16u);
+    expectLines(zorsVectorRamp_16s, zorsVectorSlope_16s);
+}
+
+TEST(Line, RoundsHalfAwayAndSaturates32)
+{
+    expectLines(zorsVectorRamp_32u, zorsVectorSlope_32u);
+    expectLines(zorsVectorRamp_32s, zorsVectorSlope_32s);
+}
+
+TEST(Line, StoresFloatsAsTheyAre)
+{
+    expectLines(zorsVectorRamp_32f, zorsVectorSlope_32f);
+    expectLines(zorsVectorRamp_64f, zorsVectorSlope_64f);
+}
+
+TEST(Line, ConstantsOfTheDefinition)
+{
+    for (const auto function : {zorsVectorRamp_16s, zorsVectorSlope_16s}) {
+        const auto constant = [=](Zor32f offset) {
+            Zor16s dst[3];
+            EXPECT_EQ(function(dst, 3, offset, 0), zorStsOk);
+            EXPECT_TRUE(dst[1] == dst[0] && dst[2] == dst[0]);
+            return dst[0];
+        };
+        EXPECT_EQ(constant(0.5f), 1);
+        EXPECT_EQ(constant(-0.5f), -1);
+        EXPECT_EQ(constant(40000), 32767);
+        EXPECT_EQ(constant(NAN), 0);
+    }
+}
+
+// From 2^24 on the index itself is rounded.
+TEST(Line, IndexesBeyondSinglePrecision)
+{
+    constexpr int len = (1 << 24) + 1027;
+    std::vector<Zor32s> dst(len);
+    for (const auto function : {zorsVectorRamp_32s, zorsVectorSlope_32s}) {
+        ASSERT_EQ(function(dst.data(), len, -1e7f, 200), zorStsOk);
+        for (int n = 0; n < len; ++n)
+            ASSERT_EQ(dst[static_cast<std::size_t>(n)],
+                      elementOf<Zor32s>(static_cast<Zor32f>(n) * 200 + -1e7f))
+                << n;
+    }
+}
+
+} // namespace
