@@ -3,7 +3,8 @@
 
 #undef ZORSAPI
 #define ZORSAPI(type, name, args)                                                                            \
-    extern "C" [[gnu::naked, gnu::visibility("default")]] type name args                                     \
+    extern "C"                                                                                               \
+        [[gnu::naked, gnu::no_profile_instrument_function, gnu::visibility("default")]] type name args       \
     {                                                                                                        \
         __asm__("movq " #name "_arraddr(%rip), %rax\n\tjmpq *%rax");                                         \
     }
