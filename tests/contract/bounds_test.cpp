@@ -5,7 +5,7 @@
 #include "options.h"
 #include "report.h"
 
-#include <cstring>
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace zors::contract {
@@ -31,7 +31,7 @@ public:
         if (status != status_)
             wrong = "status " + std::to_string(status) + " instead of " + std::to_string(status_);
         for (std::size_t i = 0; wrong.empty() && i < call.before.size(); ++i)
-            if (std::memcmp(buffers_.at(i), expected_[i].data(), call.bytes(i)) != 0)
+            if (!std::equal(expected_[i].begin(), expected_[i].end(), buffers_.at(i)))
                 wrong = call.target().parameters[i].name + " differs from the baseline's";
         if (!wrong.empty()) fail(wrong);
         return wrong.empty();
