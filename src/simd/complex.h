@@ -50,4 +50,56 @@ inline void storePairs(T* p, Part<N> at, Vec<T> re, Vec<T> im)
     if (parts > N) storeFirst<N>(p + N, v.second, parts - N);
 }
 
+// The parts of every pair exchanged, doubled: (re, re) or (im, im).
+template <class V>
+inline V partsExchanged(V v)
+{
+    struct Other {
+        constexpr int operator()(int i) const { return i ^ 1; }
+    };
+    return permute<Other>(v);
+}
+
+template <class V>
+inline V realTwice(V v)
+{
+    struct Even {
+        constexpr int operator()(int i) const { return i & ~1; }
+    };
+    return permute<Even>(v);
+}
+
+template <class V>
+inline V imaginaryTwice(V v)
+{
+    struct Odd {
+        constexpr int operator()(int i) const { return i | 1; }
+    };
+    return permute<Odd>(v);
+}
+
+// Every element of a real vector twice, at a place that counts the lanes of pairs.
+template <class T, class At>
+inline Vec<T> loadTwice(const T* p, At at)
+{
+    constexpr int half = At::lanes / 2;
+    return doubled(load<half>(p + at.index / 2));
+}
+
+template <class T, int N>
+inline Vec<T> loadTwice(const T* p, Part<N> at)
+{
+    return doubled(loadFirst<N / 2>(p + at.index / 2, at.count / 2));
+}
+
+// Complex products of floating-point pairs: two products and one sum or difference a part, each rounded.
+template <class V>
+inline V complexProduct(V a, V b)
+{
+    using I = Index<ElementOf<V>>;
+    const V straight = realTwice(a) * b, crossed = imaginaryTwice(a) * partsExchanged(b);
+    const auto odd = (iota<I>() & 1) != 0;
+    return odd ? straight + crossed : straight - crossed;
+}
+
 } // namespace zors::ZORS_VARIANT

@@ -74,11 +74,6 @@ inline V reversed(V v)
     }
 }
 
-template <class V>
-struct Pair {
-    V first, second;
-};
-
 // a0 b0 a1 b1 ... in two vectors.
 template <class V>
 inline Pair<V> interleave(V a, V b)
@@ -91,6 +86,18 @@ inline Pair<V> interleave(V a, V b)
         constexpr int operator()(int i) const { return n / 2 + i / 2 + (i % 2) * n; }
     };
     return {permute<Low>(a, b), permute<High>(a, b)};
+}
+
+// a0 a0 a1 a1 ... of half a vector.
+template <class H>
+inline auto doubled(H half)
+{
+    using T = ElementOf<H>;
+    return []<int... I>(H h, std::integer_sequence<int, I...>)
+    {
+        return (Vec<T, 2 * lanesOf<H>>)__builtin_shufflevector(h, h, (I / 2)...);
+    }
+    (half, std::make_integer_sequence<int, 2 * lanesOf<H>>{});
 }
 
 // The even and the odd lanes of a followed by b.

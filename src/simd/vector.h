@@ -31,6 +31,12 @@ template <class V>
 using ElementOf = std::remove_cvref_t<decltype(std::declval<V&>()[0])>;
 
 template <class V>
+concept Vector = requires(V v)
+{
+    v[0];
+};
+
+template <class V>
 inline constexpr int lanesOf = static_cast<int>(sizeof(V) / sizeof(ElementOf<V>));
 
 // The unsigned integer of a size in bytes.
@@ -47,6 +53,15 @@ struct UnsignedOf<4> : std::type_identity<std::uint32_t> {
 };
 template <>
 struct UnsignedOf<8> : std::type_identity<std::uint64_t> {
+};
+
+// The signed integer that is as wide as a lane, as the compiler's masks are.
+template <class T>
+using Index = std::make_signed_t<typename UnsignedOf<static_cast<int>(sizeof(T))>::type>;
+
+template <class V>
+struct Pair {
+    V first, second;
 };
 
 // Every lane the same value.

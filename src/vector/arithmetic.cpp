@@ -1,29 +1,84 @@
+// Arithmetic without a scale factor: floating types round as IEEE 754 says, integers saturate.
 #include "frame/bind.h"
-#include "simd/check.h"
-#include "simd/loop.h"
+#include "shapes.h"
 
 namespace zors::ZORS_VARIANT {
-namespace {
 
-struct Subtract {
-    static auto apply(auto v, auto c) { return v - c; }
-};
+ZORS_BIND(zorsAdd_32f, (twoSources<Add, Zor32f>))
+ZORS_BIND(zorsAdd_32f_I, (twoSourcesInPlace<Add, Zor32f>))
+ZORS_BIND(zorsAdd_64f, (twoSources<Add, Zor64f>))
+ZORS_BIND(zorsAdd_64f_I, (twoSourcesInPlace<Add, Zor64f>))
+ZORS_BIND(zorsAdd_32fc, (twoSources<Add, Zor32fc>))
+ZORS_BIND(zorsAdd_32fc_I, (twoSourcesInPlace<Add, Zor32fc>))
+ZORS_BIND(zorsAdd_64fc, (twoSources<Add, Zor64fc>))
+ZORS_BIND(zorsAdd_64fc_I, (twoSourcesInPlace<Add, Zor64fc>))
+ZORS_BIND(zorsAdd_16s, (twoSources<Add, Zor16s>))
+ZORS_BIND(zorsAdd_16s_I, (twoSourcesInPlace<Add, Zor16s>))
 
-struct Multiply {
-    static auto apply(auto v, auto c) { return v * c; }
-};
+ZORS_BIND(zorsSub_32f, (twoSources<Subtract, Zor32f>))
+ZORS_BIND(zorsSub_32f_I, (twoSourcesInPlace<Subtract, Zor32f>))
+ZORS_BIND(zorsSub_64f, (twoSources<Subtract, Zor64f>))
+ZORS_BIND(zorsSub_64f_I, (twoSourcesInPlace<Subtract, Zor64f>))
+ZORS_BIND(zorsSub_32fc, (twoSources<Subtract, Zor32fc>))
+ZORS_BIND(zorsSub_32fc_I, (twoSourcesInPlace<Subtract, Zor32fc>))
+ZORS_BIND(zorsSub_64fc, (twoSources<Subtract, Zor64fc>))
+ZORS_BIND(zorsSub_64fc_I, (twoSourcesInPlace<Subtract, Zor64fc>))
+ZORS_BIND(zorsSub_16s, (twoSources<Subtract, Zor16s>))
+ZORS_BIND(zorsSub_16s_I, (twoSourcesInPlace<Subtract, Zor16s>))
 
-template <class Operation, class T>
-ZorStatus withConstantInPlace(T val, T* pSrcDst, int len)
-{
-    if (const ZorStatus bad = check(pointers(pSrcDst), length(len))) return bad;
-    blocks<lanes<T>>(len, [=](auto at) { store(pSrcDst, at, Operation::apply(load(pSrcDst, at), val)); });
-    return zorStsOk;
-}
+ZORS_BIND(zorsMul_32f, (twoSources<Multiply, Zor32f>))
+ZORS_BIND(zorsMul_32f_I, (twoSourcesInPlace<Multiply, Zor32f>))
+ZORS_BIND(zorsMul_64f, (twoSources<Multiply, Zor64f>))
+ZORS_BIND(zorsMul_64f_I, (twoSourcesInPlace<Multiply, Zor64f>))
+ZORS_BIND(zorsMul_32fc, (twoSources<Multiply, Zor32fc>))
+ZORS_BIND(zorsMul_32fc_I, (twoSourcesInPlace<Multiply, Zor32fc>))
+ZORS_BIND(zorsMul_64fc, (twoSources<Multiply, Zor64fc>))
+ZORS_BIND(zorsMul_64fc_I, (twoSourcesInPlace<Multiply, Zor64fc>))
+ZORS_BIND(zorsMul_16s, (twoSources<Multiply, Zor16s>))
+ZORS_BIND(zorsMul_16s_I, (twoSourcesInPlace<Multiply, Zor16s>))
 
-} // namespace
+ZORS_BIND(zorsAddC_32f, (sourceWithConstant<Add, Zor32f>))
+ZORS_BIND(zorsAddC_32f_I, (sourceWithConstantInPlace<Add, Zor32f>))
+ZORS_BIND(zorsAddC_64f, (sourceWithConstant<Add, Zor64f>))
+ZORS_BIND(zorsAddC_64f_I, (sourceWithConstantInPlace<Add, Zor64f>))
+ZORS_BIND(zorsAddC_32fc, (sourceWithConstant<Add, Zor32fc>))
+ZORS_BIND(zorsAddC_32fc_I, (sourceWithConstantInPlace<Add, Zor32fc>))
+ZORS_BIND(zorsAddC_64fc, (sourceWithConstant<Add, Zor64fc>))
+ZORS_BIND(zorsAddC_64fc_I, (sourceWithConstantInPlace<Add, Zor64fc>))
+ZORS_BIND(zorsAddC_16s, (sourceWithConstant<Add, Zor16s>))
+ZORS_BIND(zorsAddC_16s_I, (sourceWithConstantInPlace<Add, Zor16s>))
 
-ZORS_BIND(zorsSubC_32f_I, (withConstantInPlace<Subtract, Zor32f>))
-ZORS_BIND(zorsMulC_32f_I, (withConstantInPlace<Multiply, Zor32f>))
+ZORS_BIND(zorsSubC_32f, (constantWithSource<Subtract, Zor32f>))
+ZORS_BIND(zorsSubC_32f_I, (constantWithSourceInPlace<Subtract, Zor32f>))
+ZORS_BIND(zorsSubC_64f, (constantWithSource<Subtract, Zor64f>))
+ZORS_BIND(zorsSubC_64f_I, (constantWithSourceInPlace<Subtract, Zor64f>))
+ZORS_BIND(zorsSubC_32fc, (constantWithSource<Subtract, Zor32fc>))
+ZORS_BIND(zorsSubC_32fc_I, (constantWithSourceInPlace<Subtract, Zor32fc>))
+ZORS_BIND(zorsSubC_64fc, (constantWithSource<Subtract, Zor64fc>))
+ZORS_BIND(zorsSubC_64fc_I, (constantWithSourceInPlace<Subtract, Zor64fc>))
+ZORS_BIND(zorsSubC_16s, (constantWithSource<Subtract, Zor16s>))
+ZORS_BIND(zorsSubC_16s_I, (constantWithSourceInPlace<Subtract, Zor16s>))
+
+ZORS_BIND(zorsSubCRev_32f, (sourceWithConstant<Subtract, Zor32f>))
+ZORS_BIND(zorsSubCRev_32f_I, (sourceWithConstantInPlace<Subtract, Zor32f>))
+ZORS_BIND(zorsSubCRev_64f, (sourceWithConstant<Subtract, Zor64f>))
+ZORS_BIND(zorsSubCRev_64f_I, (sourceWithConstantInPlace<Subtract, Zor64f>))
+ZORS_BIND(zorsSubCRev_32fc, (sourceWithConstant<Subtract, Zor32fc>))
+ZORS_BIND(zorsSubCRev_32fc_I, (sourceWithConstantInPlace<Subtract, Zor32fc>))
+ZORS_BIND(zorsSubCRev_64fc, (sourceWithConstant<Subtract, Zor64fc>))
+ZORS_BIND(zorsSubCRev_64fc_I, (sourceWithConstantInPlace<Subtract, Zor64fc>))
+ZORS_BIND(zorsSubCRev_16s, (sourceWithConstant<Subtract, Zor16s>))
+ZORS_BIND(zorsSubCRev_16s_I, (sourceWithConstantInPlace<Subtract, Zor16s>))
+
+ZORS_BIND(zorsMulC_32f, (constantWithSource<Multiply, Zor32f>))
+ZORS_BIND(zorsMulC_32f_I, (constantWithSourceInPlace<Multiply, Zor32f>))
+ZORS_BIND(zorsMulC_64f, (constantWithSource<Multiply, Zor64f>))
+ZORS_BIND(zorsMulC_64f_I, (constantWithSourceInPlace<Multiply, Zor64f>))
+ZORS_BIND(zorsMulC_32fc, (constantWithSource<Multiply, Zor32fc>))
+ZORS_BIND(zorsMulC_32fc_I, (constantWithSourceInPlace<Multiply, Zor32fc>))
+ZORS_BIND(zorsMulC_64fc, (constantWithSource<Multiply, Zor64fc>))
+ZORS_BIND(zorsMulC_64fc_I, (constantWithSourceInPlace<Multiply, Zor64fc>))
+ZORS_BIND(zorsMulC_16s, (constantWithSource<Multiply, Zor16s>))
+ZORS_BIND(zorsMulC_16s_I, (constantWithSourceInPlace<Multiply, Zor16s>))
 
 } // namespace zors::ZORS_VARIANT

@@ -1,0 +1,41 @@
+// Where the operands of an element-wise operation come from, and the loop over them.
+#pragma once
+
+#include "lane.h"
+#include "simd/loop.h"
+
+namespace zors::ZORS_VARIANT {
+
+// The elements of a vector.
+template <class T>
+auto elements(const T* p)
+{
+    return [p = asLanes(p)](auto at) { return load(p, at); };
+}
+
+// One element for all.
+template <class T>
+auto constant(T value)
+{
+    if constexpr (LaneOf<T>::each == 1) {
+        return [value](auto at) { return splat<T, decltype(at)::lanes>(value); };
+    } else {
+        const auto odd = (iota<Index<Lane<T>>>() & 1) != 0;
+        return [v = odd ? splat(value.im) : splat(value.re)](auto) { return v; };
+    }
+}
+
+// Stores operation(a, b) for all places; in place where the destination is a source.
+template <class T, class A, class B, class Operation>
+inline void combine(A a, B b, T* pDst, int len, bool inPlace, Operation operation)
+{
+    using L = Lane<T>;
+    L* p = asLanes(pDst);
+    const auto body = [=](auto at) { store(p, at, operation(a(at), b(at))); };
+    if (inPlace)
+        blocks<lanes<L>>(laneCount<T>(len), body);
+    else
+        blocksInto<lanes<L>, LaneOf<T>::each>(laneCount<T>(len), body, p);
+}
+
+} // namespace zors::ZORS_VARIANT
