@@ -1,0 +1,49 @@
+#include <gtest/gtest.h>
+#include <zors.h>
+
+#include <cmath>
+#include <limits>
+#include <vector>
+
+namespace {
+
+constexpr Zor32f infinity = std::numeric_limits<Zor32f>::infinity();
+
+void expectMinMax(const Zor32f* pSrc, int len)
+{
+    Zor32f least = infinity, most = -infinity, gotLeast = 0, gotMost = 0;
+    for (int n = 0; n < len; ++n) least = std::fmin(least, pSrc[n]), most = std::fmax(most, pSrc[n]);
+    ASSERT_EQ(zorsMinMax_32f(pSrc, len, &gotLeast, &gotMost), zorStsOk);
+    ASSERT_EQ(gotLeast, least) << len;
+    ASSERT_EQ(gotMost, most) << len;
+}
+
+TEST(MinMax, FindsTheExtremesInEveryPlace)
+{
+    for (int len = 1; len <= 257; ++len)
+        for (int place = 0; place < len; ++place) {
+            // Neither extreme is near 0, which fills the lanes past the end.
+            for (const Zor32f level : {-5.0f, 5.0f, NAN}) {
+                std::vector<Zor32f> src(static_cast<std::size_t>(len), level);
+                src[static_cast<std::size_t>(place)] = level < 0 ? -4.0f : 4.0f;
+                expectMinMax(src.data(), len);
+                src[static_cast<std::size_t>(place)] = level < 0 ? -6.0f : 6.0f;
+                expectMinMax(src.data(), len);
+            }
+            if (testing::Test::HasFatalFailure()) return;
+        }
+}
+
+TEST(MinMax, PassesOverWhatIsNotANumber)
+{
+    for (int len = 1; len <= 257; ++len) {
+        std::vector<Zor32f> src(static_cast<std::size_t>(len), NAN);
+        expectMinMax(src.data(), len); // the infinities the wrong way round
+        src.back() = -infinity;
+        expectMinMax(src.data(), len);
+        src.front() = infinity;
+        expectMinMax(src.data(), len);
+    }
+}
+
+} // namespace
