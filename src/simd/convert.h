@@ -56,6 +56,11 @@ inline Vec<std::int32_t, N> truncated(Vec<float, N> v)
     if constexpr (bytes == 32) return (R)_mm256_cvttps_epi32((__m256)v);
 #endif
     if constexpr (bytes == 16) return (R)_mm_cvttps_epi32((__m128)v);
+    if constexpr (bytes == 8) {
+        // In the lower half of a register.
+        const auto all = (Vec<std::int32_t, 4>)_mm_cvttps_epi32((__m128)Vec<float, 4>{v[0], v[1], 0, 0});
+        return R{all[0], all[1]};
+    }
 }
 
 // The low bits of every lane.

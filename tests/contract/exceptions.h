@@ -28,12 +28,22 @@ inline constexpr LeastLength leastLengths[] = {{"zorsStdDev_", 2}, {"zorsMeanStd
 // Functions that check the length before the pointers.
 inline constexpr std::string_view lengthFirst[] = {"zorsAdd_16sc_", "zorsSub_16sc_"};
 
-// Scalars with a forbidden value, found behind the lengths in the order of the arguments.
+// Scalars with a forbidden value, -1 or 0, found behind the lengths in the order of the arguments, by the beginning
+// of the function's name.
 struct Forbidden {
-    std::string_view parameter;
+    std::string_view function, parameter;
     ZorStatus status;
+    bool negative = true;
 };
-inline constexpr Forbidden negatives[] = {
-    {"srcBitOffset", zorStsBadSize}, {"dstBitOffset", zorStsBadSize}, {"magn", zorStsBadJaehneMagnitude}};
+inline constexpr Forbidden forbidden[] = {
+    {"", "srcBitOffset", zorStsBadSize},
+    {"", "dstBitOffset", zorStsBadSize},
+    {"", "magn", zorStsBadJaehneMagnitude},
+    {"zorsDiv_Round_", "rndMode", zorStsBadRoundMode},
+    {"zorsDivC_8u", "val", zorStsDivByZeroError, false},
+    {"zorsDivC_16s", "val", zorStsDivByZeroError, false},
+    {"zorsDivC_32fc", "val", zorStsDivByZeroError, false},
+    {"zorsDivC_64fc", "val", zorStsDivByZeroError, false},
+};
 
 } // namespace zors::contract

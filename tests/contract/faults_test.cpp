@@ -61,10 +61,11 @@ std::vector<Fault> faultsOf(const Export& e)
         if (p.role == Role::length)
             for (const int bad : {leastLength(e) - 1, -1, INT_MIN})
                 faults.push_back(fault(i, lengthRank, zorStsBadSize, bad, "len " + std::to_string(bad)));
-        for (const auto& n : negatives) {
-            Value minus;
-            if (p.name == n.parameter && p.setNegative(minus))
-                faults.push_back({i, later, n.status, minus, p.name + " negative"});
+        for (const auto& f : forbidden) {
+            Value bad; // zero
+            if (p.name == f.parameter && e.name.starts_with(f.function) &&
+                (!f.negative || p.setNegative(bad)))
+                faults.push_back({i, later, f.status, bad, p.name + (f.negative ? " negative" : " zero")});
         }
     }
     return faults;

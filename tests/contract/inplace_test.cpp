@@ -88,7 +88,8 @@ TEST(Contract, InPlace)
                 const ZorStatus a = e.invoke(library.function(e.name), call.arguments.data());
                 const ZorStatus b =
                     partner->invoke(library.function(partner->name), reference.arguments.data());
-                same = a == b && std::memcmp(one.at(written), other.at(result), call.bytes(written)) == 0;
+                same = a == b && (a < zorStsOk ||
+                                  std::memcmp(one.at(written), other.at(result), call.bytes(written)) == 0);
                 if (!same) fail("differs from " + partner->name);
                 coverage.count("pairs of calls", 1);
             }
