@@ -3,6 +3,7 @@
 #include "export.h"
 
 #include <atomic>
+#include <cctype>
 #include <cpuid.h>
 #include <cstdlib>
 #include <cstring>
@@ -75,7 +76,8 @@ Zor64u detectFeatures()
 Zor64u allowedFeatures()
 {
     const char* text = std::getenv("ZOR_CPU_FEATURES");
-    if (!text || !*text) return ~UINT64_C(0);
+    // Neither a sign nor a blank begins a mask.
+    if (!text || !std::isxdigit(static_cast<unsigned char>(*text))) return ~UINT64_C(0);
     char* end = nullptr;
     const Zor64u mask = std::strtoull(text, &end, 16);
     return *end ? ~UINT64_C(0) : mask;

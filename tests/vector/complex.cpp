@@ -48,7 +48,7 @@ void expectJoined(ZorStatus (*function)(const T*, const T*, C*, int))
                 {.source = 2});
         }
     C untouched{1, 2};
-    EXPECT_EQ(function(nullptr, nullptr, &untouched, 1), zorStsNullPointer);
+    for (const int len : {1, 0}) EXPECT_EQ(function(nullptr, nullptr, &untouched, len), zorStsNullPointer);
     EXPECT_EQ(untouched.re, 1);
     EXPECT_EQ(untouched.im, 2);
 }

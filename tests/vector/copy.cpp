@@ -51,4 +51,18 @@ TEST(Move, GivesWhatTheSourceHeldWhereTheVectorsOverlap)
          zorsMove_64s, zorsMove_64sc, zorsMove_64f, zorsMove_64fc);
 }
 
+// Where the caches cannot hold the vectors.
+TEST(Move, OverlapsInLongVectors)
+{
+    constexpr int len = 14 << 20, most = 300;
+    Random random;
+    RandomVector<Zor8u> got(len + 2 * most, 1, random);
+    for (const int shift : {-most, -64, -1, 1, 17, 64, most}) {
+        RandomVector<Zor8u> want = got;
+        std::memmove(want.data() + most + shift, want.data() + most, len);
+        ASSERT_EQ(zorsMove_8u(got.data() + most, got.data() + most + shift, len), zorStsOk);
+        ASSERT_TRUE(got == want) << "shift " << shift;
+    }
+}
+
 } // namespace
