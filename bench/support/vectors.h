@@ -17,6 +17,21 @@ std::shared_ptr<T[]> vector(int length)
     return {memory, [](T* p) { operator delete(p, line); }};
 }
 
+// Small numbers, whose sums and products are neither rounded away nor out of range.
+template <class T>
+std::shared_ptr<T[]> numbers(int length)
+{
+    auto v = vector<T>(length);
+    for (int i = 0; i < length; ++i) {
+        const int number = 1 + i % 16;
+        if constexpr (requires(T t) { t.re; })
+            v[i] = {static_cast<decltype(T::re)>(number), static_cast<decltype(T::re)>(3)};
+        else
+            v[i] = static_cast<T>(number);
+    }
+    return v;
+}
+
 template <class T>
 struct Scalar {
     T value;

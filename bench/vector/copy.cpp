@@ -1,5 +1,5 @@
 // Filling, copying and rearranging beside memcpy, memset and plain loops.
-#include "support/compare.h"
+#include "support/calls.h"
 #include "support/vectors.h"
 #include "vector/plain_copy.h"
 
@@ -10,25 +10,6 @@ namespace zors::bench {
 namespace {
 
 const std::vector<int> lengths = {16, 256, 4096, 65536, 4 << 20};
-
-// One call f(arguments..., length), the vectors made for the length.
-template <class F, class... Makers>
-Contender contender(const char* name, F f, Makers... makers)
-{
-    return {name, [=](int length) -> Operation {
-                return [f, length, arguments = std::make_tuple(makers(length)...)] {
-                    std::apply([&](const auto&... a) { f(a.get()..., length); }, arguments);
-                };
-            }};
-}
-
-// Our function and the two compilers' loops with the same arguments.
-template <class F, class G, class... Makers>
-std::vector<Contender> contenders(F ours, G PlainCopyLoops::*loop, Makers... makers)
-{
-    return {contender("zors", ours, makers...), contender("g++", gcc_loops.*loop, makers...),
-            contender("clang", clang_loops.*loop, makers...)};
-}
 
 template <class T>
 std::size_t bytes(int n)
@@ -50,10 +31,12 @@ Contender byMemset()
         "memset", [](T* d, int n) { std::memset(static_cast<void*>(d), 0, bytes<T>(n)); }, vector<T>);
 }
 
-std::vector<Contender> with(std::vector<Contender> some, Contender another)
+const Compiled<PlainCopyLoops> plain{gcc_loops, clang_loops};
+
+template <class... Arguments>
+auto contenders(Arguments... arguments)
 {
-    some.push_back(std::move(another));
-    return some;
+    return plain.contenders(arguments...);
 }
 
 void registerAll()

@@ -71,9 +71,10 @@ inline void store(T* p, Part<N> at, Vec<T, N> v)
     storeFirst<N>(p + at.index, v, at.count);
 }
 
-// Steps of N elements, four at a time while they last, then what is left over.
+// Steps of N elements, four at a time while they last, then what is left over. Always inlined: called, it would get
+// what the body captures through the stack, and that costs a short vector more than its elements.
 template <int N, class Body>
-inline void blocks(std::ptrdiff_t len, Body body)
+[[gnu::always_inline]] inline void blocks(std::ptrdiff_t len, Body body)
 {
     std::ptrdiff_t i = 0;
     for (; i + 4 * N <= len; i += 4 * N) {
@@ -90,9 +91,8 @@ inline void blocks(std::ptrdiff_t len, Body body)
 // fit into the last level and are faster through it.
 inline constexpr std::ptrdiff_t streamedBytes = std::ptrdiff_t{12} << 20;
 
-// Kept out of line: the short vectors pay for none of it.
 template <int N, class Body>
-[[gnu::noinline]] void streamedBlocks(std::ptrdiff_t head, std::ptrdiff_t len, Body body)
+inline void streamedBlocks(std::ptrdiff_t head, std::ptrdiff_t len, Body body)
 {
     if (head > 0) body(Part<N>{0, static_cast<int>(head)});
     std::ptrdiff_t i = head;
@@ -101,22 +101,36 @@ template <int N, class Body>
     streamFence();
 }
 
-// The same steps for a body that stores to nothing but the destinations; if they are long and reach an aligned
-// address together they are streamed. A destination must not be a source as well. Where an element is made of
-// several lanes, Each, every step starts with a whole element.
-template <int N, int Each = 1, class Body, class T, class... More>
-inline void blocksInto(std::ptrdiff_t len, Body body, T* pDst, More*... more)
+// Streams the steps if the destinations reach an aligned address together. Where an element is made of several
+// lanes, Each, every step starts with a whole element.
+// Kept out of line: the short vectors pay for none of it.
+template <int N, int Each, class Body, class T, class... More>
+[[gnu::noinline]] bool streamsAligned(std::ptrdiff_t len, Body body, T* pDst, More*... more)
 {
     constexpr auto size = static_cast<std::ptrdiff_t>(sizeof(T));
-    if (len * size >= streamedBytes) {
-        const auto toAligned = [](const void* p) {
-            return -reinterpret_cast<std::intptr_t>(p) & (vectorBytes - 1);
-        };
-        const std::ptrdiff_t gap = toAligned(pDst);
-        if (gap % (Each * size) == 0 && ((toAligned(more) == gap) && ...))
-            return streamedBlocks<N>(gap / size, len, body);
-    }
-    blocks<N>(len, body);
+    const auto toAligned = [](const void* p) {
+        return -reinterpret_cast<std::intptr_t>(p) & (vectorBytes - 1);
+    };
+    const std::ptrdiff_t gap = toAligned(pDst);
+    if (gap % (Each * size) != 0 || ((toAligned(more) != gap) || ...)) return false;
+    streamedBlocks<N>(gap / size, len, body);
+    return true;
+}
+
+// Runs the steps past the caches if the destinations are long and aligned alike.
+template <int N, int Each, class Body, class T, class... More>
+[[gnu::always_inline]] inline bool streams(std::ptrdiff_t len, Body body, T* pDst, More*... more)
+{
+    if (len < streamedBytes / static_cast<std::ptrdiff_t>(sizeof(T))) [[likely]]
+        return false;
+    return streamsAligned<N, Each>(len, body, pDst, more...);
+}
+
+// The same steps for a body that stores to nothing but the destinations. A destination must not be a source as well.
+template <int N, int Each = 1, class Body, class... T>
+[[gnu::always_inline]] inline void blocksInto(std::ptrdiff_t len, Body body, T*... pDst)
+{
+    if (!streams<N, Each>(len, body, pDst...)) blocks<N>(len, body);
 }
 
 } // namespace zors::ZORS_VARIANT

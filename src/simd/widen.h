@@ -37,6 +37,12 @@ inline Pair<Vec<std::int32_t>> unpacked(Vec<std::int16_t> low, Vec<std::int16_t>
             (Vec<std::int32_t>)ZORS_NATIVE(unpackhi_epi16)((ZORS_INTEGERS)low, (ZORS_INTEGERS)high)};
 }
 
+inline Pair<Vec<std::int32_t>> unpacked(Vec<std::int32_t> low, Vec<std::int32_t> high)
+{
+    return {(Vec<std::int32_t>)ZORS_NATIVE(unpacklo_epi32)((ZORS_INTEGERS)low, (ZORS_INTEGERS)high),
+            (Vec<std::int32_t>)ZORS_NATIVE(unpackhi_epi32)((ZORS_INTEGERS)low, (ZORS_INTEGERS)high)};
+}
+
 inline Pair<Wide<std::uint8_t>> widened(Vec<std::uint8_t> v)
 {
     const auto w = unpacked(v, Vec<std::uint8_t>{});
@@ -191,11 +197,12 @@ inline Vec<std::int32_t> wideProduct(Vec<std::int16_t, lanes<std::int32_t>> a,
 inline Vec<std::int16_t> fractionalProducts(Vec<std::int16_t> a, Vec<std::int16_t> b)
 {
 #if ZORS_VECTOR_BYTES > 16
-    // The instruction rounds ties up, and -1 * -1 wraps to -1, which no other product gives.
-    auto r = (Vec<std::int16_t>)ZORS_NATIVE(mulhrs_epi16)((ZORS_INTEGERS)a, (ZORS_INTEGERS)b);
-    const auto low = bitsAs<std::int16_t>(wrapping(a) * wrapping(b));
-    r = r - ((low & 0x7fff) == 0x4000 ? r & 1 : Vec<std::int16_t>{});
-    return r ^ maskAs<Vec<std::int16_t>>(r == std::numeric_limits<std::int16_t>::min());
+    // The instruction rounds ties up, one too far where the bit above the half is 0; and -1 * -1 wraps to -1, which
+    // no other product gives, one past the largest value.
+    const auto r = (Vec<std::uint16_t>)ZORS_NATIVE(mulhrs_epi16)((ZORS_INTEGERS)a, (ZORS_INTEGERS)b);
+    const auto low = wrapping(a) * wrapping(b);
+    const auto tooFar = (low == 0x4000) | (r == 0x8000);
+    return bitsAs<std::int16_t>(r + maskAs<Vec<std::uint16_t>>(tooFar));
 #else
     const RoundingShift<std::int32_t> shift(15);
     const auto p = products(a, b);

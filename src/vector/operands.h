@@ -27,15 +27,13 @@ auto constant(T value)
 
 // Stores operation(a, b) for all places; in place where the destination is a source.
 template <class T, class A, class B, class Operation>
-inline void combine(A a, B b, T* pDst, int len, bool inPlace, Operation operation)
+[[gnu::always_inline]] inline void combine(A a, B b, T* pDst, int len, bool inPlace, Operation operation)
 {
     using L = Lane<T>;
     L* p = asLanes(pDst);
+    const std::ptrdiff_t count = laneCount<T>(len);
     const auto body = [=](auto at) { store(p, at, operation(a(at), b(at))); };
-    if (inPlace)
-        blocks<lanes<L>>(laneCount<T>(len), body);
-    else
-        blocksInto<lanes<L>, LaneOf<T>::each>(laneCount<T>(len), body, p);
+    if (inPlace || !streams<lanes<L>, LaneOf<T>::each>(count, body, p)) blocks<lanes<L>>(count, body);
 }
 
 } // namespace zors::ZORS_VARIANT

@@ -116,11 +116,17 @@ inline Vec<T> scaled(Pair<V> x, Case scale)
     return packed<T>(Pair<V>{scaled<T>(x.first, scale), scaled<T>(x.second, scale)});
 }
 
-// Products of complex numbers, their parts in wide lanes.
+// Products of complex numbers, their parts in wide lanes. Only one product leaves a lane: the imaginary part of the
+// square of least + i least, which is one past the largest value. The largest value is as good there: scaled down it
+// rounds to the same, otherwise both saturate.
 template <class V>
 struct ComplexProducts {
-    Difference<V> re;
-    Sum<V> im;
+    V re, im;
+
+    ComplexProducts(V re_, V im_) : re(re_), im(im_ ^ maskAs<V>(im_ == least)) {}
+
+private:
+    static constexpr auto least = std::numeric_limits<ElementOf<V>>::min();
 };
 
 inline ComplexProducts<Vec<std::int32_t>> complexProducts(Vec<std::int16_t> a, Vec<std::int16_t> b)
@@ -129,20 +135,19 @@ inline ComplexProducts<Vec<std::int32_t>> complexProducts(Vec<std::int16_t> a, V
     const auto re = bitsAs<std::int16_t>(words & 0xffffu), im = bitsAs<std::int16_t>(words & 0xffff0000u);
     const auto swapped = bitsAs<std::uint32_t>(b);
     const auto crossed = bitsAs<std::int16_t>(swapped << 16 | swapped >> 16);
-    return {{pairProducts(im, b), pairProducts(re, b)},
-            {pairProducts(re, crossed), pairProducts(im, crossed)}};
+    return {pairProducts(re, b) - pairProducts(im, b), pairProducts(a, crossed)};
 }
 
 inline ComplexProducts<Vec<std::int64_t>> complexProducts(Vec<std::int32_t> a, Vec<std::int32_t> b)
 {
     const auto aIm = oddOntoEven(a), bIm = oddOntoEven(b);
-    return {{evenProducts(aIm, bIm), evenProducts(a, b)}, {evenProducts(a, bIm), evenProducts(aIm, b)}};
+    return {evenProducts(a, b) - evenProducts(aIm, bIm),
+            bitsAs<std::int64_t>(wrapping(evenProducts(a, bIm)) + wrapping(evenProducts(aIm, b)))};
 }
 
 inline Vec<std::int16_t> joined(Vec<std::int32_t> re, Vec<std::int32_t> im)
 {
-    const auto low = bitsAs<std::uint32_t>(clamped<std::int16_t>(re)) & 0xffffu;
-    return bitsAs<std::int16_t>(low | bitsAs<std::uint32_t>(clamped<std::int16_t>(im)) << 16);
+    return packed<std::int16_t>(unpacked(re, im));
 }
 
 inline Vec<std::int32_t> joined(Vec<std::int64_t> re, Vec<std::int64_t> im)
