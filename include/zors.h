@@ -11,11 +11,14 @@
 #include <zors/vector/arithmetic.h>
 #include <zors/vector/arithmetic_scaled.h>
 #include <zors/vector/bits.h>
+#include <zors/vector/companding.h>
 #include <zors/vector/complex.h>
 #include <zors/vector/convert.h>
 #include <zors/vector/copy.h>
 #include <zors/vector/division.h>
+#include <zors/vector/pack.h>
 #include <zors/vector/reorder.h>
+#include <zors/vector/rows.h>
 #include <zors/vector/sequence.h>
 #include <zors/vector/set.h>
 #include <zors/vector/statistics.h>

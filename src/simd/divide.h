@@ -2,8 +2,7 @@
 // as the exact ones do.
 #pragma once
 
-#include "convert.h"
-#include "loop.h"
+#include "round.h"
 
 #include <zortypes.h>
 
@@ -30,25 +29,13 @@ inline Vec<F, lanesOf<V>> converted(V v)
                                    Vec<F, lanesOf<V>>);
 }
 
-// Rounded as arithmetic rounds.
-inline Vec<float, lanes<double>> toSingle(Vec<double> v)
-{
-#if ZORS_VECTOR_BYTES == 64
-    return (Vec<float, lanes<double>>)_mm512_cvtpd_ps((__m512d)v);
-#elif ZORS_VECTOR_BYTES == 32
-    return (Vec<float, lanes<double>>)_mm256_cvtpd_ps((__m256d)v);
-#else
-    return __builtin_convertvector(v, Vec<float, lanes<double>>);
-#endif
-}
-
 // Rounded to odd: a value between two floats goes to the one whose last bit is set. It then lies on the same side as
 // before of every number of fewer bits, so rounding it once more, to an integer, rounds the original.
 inline Vec<float, lanes<double>> toSingleOdd(Vec<double> v)
 {
     constexpr std::uint64_t lost = (std::uint64_t{1} << 29) - 1;
     const auto bits = bitsAs<std::uint64_t>(v);
-    return toSingle(bitsAs<double>((bits | ((bits & lost) + lost)) & ~lost));
+    return toFloat<lanes<double>>(bitsAs<double>((bits | ((bits & lost) + lost)) & ~lost));
 }
 
 // Rounded to integers and saturated.

@@ -64,7 +64,8 @@ ZorStatus divide(auto divisor, auto dividend, Zor32fc* pDst, int len)
         const auto y = widened<Zor32f>(divisor(at));
         const auto q = fraction(widened<Zor32f>(dividend(at)), y, y.first);
         const Vec<Zor64f> reciprocal = 1.0 / q.divisor;
-        store(pPairs, at, join<Zor32f, step>(toSingle(q.re * reciprocal), toSingle(q.im * reciprocal)));
+        store(pPairs, at,
+              join<Zor32f, step>(toFloat<step>(q.re * reciprocal), toFloat<step>(q.im * reciprocal)));
     });
     return zorStsOk;
 }

@@ -2,7 +2,7 @@
 
 #include "frame/bind.h"
 #include "simd/check.h"
-#include "simd/convert.h"
+#include "simd/round.h"
 
 #include <algorithm>
 #include <cmath>

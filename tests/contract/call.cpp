@@ -16,13 +16,13 @@ bool nameHas(const Export& e, std::string_view code)
 }
 
 // Scalars with a meaning get values that exercise it; all others any value of their type.
-void setScalar(const Parameter& p, Value& value, Random& random)
+void setScalar(const Export& e, const Parameter& p, Value& value, Random& random)
 {
     constexpr int factors[] = {0, 1, 2, 3, 7, 15, 16, 31, 40, -1, -2, -8, -31, -40, 2000, -2000};
     if (p.name == "scaleFactor")
         value.set(factors[random.below(16)]);
     else if (p.name == "rndMode")
-        value.set(random.below(2));
+        value.set(random.below(nameHas(e, "16f") ? 2 : 3));
     else if (p.name == "hint")
         value.set(random.below(3));
     else if (p.name == "srcBitOffset" || p.name == "dstBitOffset")
@@ -34,6 +34,17 @@ void setScalar(const Parameter& p, Value& value, Random& random)
         *last &= std::byte{0x7f};
     } else
         p.randomise(value.data(), 1, random);
+}
+
+// Any values, but where elements have a meaning.
+void setVector(const Parameter& p, std::vector<std::byte>& bytes, Random& random)
+{
+    p.randomise(bytes.data(), bytes.size() / p.size, random);
+    if (p.name != "pSrcBits") return;
+    for (std::size_t at = 0; at < bytes.size(); at += p.size) {
+        const Zor32s count = random.below(9); // a byte for each word at the most
+        std::memcpy(&bytes[at], &count, sizeof count);
+    }
 }
 
 std::size_t vectorBytes(const Call& call, const Parameter& p, int length)
@@ -62,13 +73,13 @@ Call::Call(const Export& e, int length, std::uint64_t seed)
         if (p.role == Role::length)
             arguments[i].set(length);
         else if (p.role == Role::scalar)
-            setScalar(p, arguments[i], random);
+            setScalar(e, p, arguments[i], random);
     }
     for (std::size_t i = 0; i < e.parameters.size(); ++i) {
         const Parameter& p = e.parameters[i];
         if (!p.isPointer()) continue;
         before[i].resize(vectorBytes(*this, p, length));
-        p.randomise(before[i].data(), before[i].size() / p.size, random);
+        setVector(p, before[i], random);
     }
 }
 

@@ -1,4 +1,4 @@
-#include "simd/convert.h"
+#include "simd/round.h"
 
 #include "simd/memory.h"
 

@@ -1,143 +1,164 @@
+// Conversions that widen, and integers to floats.
+#include "support/control.h"
 #include "support/oracle.h"
 
 #include <zors.h>
 
 #include <algorithm>
-#include <cfenv>
-#include <cfloat>
 #include <climits>
 #include <cmath>
+#include <limits>
 #include <numeric>
-#include <xmmintrin.h>
 
 namespace {
 
 using namespace zors::test;
 
-// Every element here has 24 significant bits at the most, so that a double holds it scaled without rounding.
-double scaled(double value, int scaleFactor)
+template <class S, class D>
+using Conversion = ZorStatus (*)(const S*, D*, int);
+
+template <class S, class D>
+void expectCast(Conversion<S, D> function)
 {
-    return std::ldexp(value, -std::clamp(scaleFactor, -700, 700));
+    for (const unsigned control : controls)
+        expectSame<S, D>(
+            [=](const S* pSrc, D* pDst, int len) {
+                ZorStatus status = zorStsOk;
+                underControl(control, [&] { status = function(pSrc, pDst, len); });
+                return status;
+            },
+            [](const S* pSrc, D* pDst, int len) {
+                for (int n = 0; n < len; ++n) pDst[n] = static_cast<D>(pSrc[n]);
+            },
+            {}, control == standardControl ? Lengths::smallAndLong : Lengths::small);
 }
 
-std::vector<int> scaleFactors(int first, int last)
+TEST(Widening, IntegersKeepTheirValues)
 {
-    std::vector<int> all(static_cast<std::size_t>(last - first + 1));
-    std::iota(all.begin(), all.end(), first);
-    all.insert(all.end(), {INT_MIN, INT_MIN + 1, -1025, -221, -220, 219, 220, 221, 1025, INT_MAX});
-    return all;
+    expectCast(zorsConvert_8s16s);
+    expectCast(zorsConvert_16s32s);
+    expectCast(zorsConvert_8s32f);
+    expectCast(zorsConvert_8u32f);
+    expectCast(zorsConvert_16s32f);
+    expectCast(zorsConvert_16u32f);
+    expectCast(zorsConvert_32s64f);
 }
 
-TEST(IntegerToFloat, ScalesWithOneRounding)
+TEST(Rounding, ToTheNearestFloat)
 {
-    std::vector<Zor16s> src(65536);
-    std::iota(src.begin(), src.end(), std::numeric_limits<Zor16s>::min());
+    expectCast(zorsConvert_32s32f);
+    expectCast(zorsConvert_64s64f);
+}
+
+// Random bits are denormal, infinite and not a number often enough.
+TEST(Rounding, BetweenFloats)
+{
+    expectCast(zorsConvert_32f64f);
+    expectCast(zorsConvert_64f32f);
+}
+
+// The cases that random bits do not meet: ties, the ends of the denormal and of the finite range.
+TEST(Rounding, TiesOfDoubles)
+{
+    std::vector<Zor64f> src;
+    for (const Zor64f v : {1.0, 0x1p-126, 0x1p-149, 0x1p-150, 0x1.8p-149, 0x1.fffffep127, 0x1.ffffffp127})
+        for (const Zor64f ulps : {0.0, 0x1p-24, 0x1p-23, 0x1.8p-23, 0x1p-52, -0x1p-53, 0x1.000001p-24})
+            src.insert(src.end(), {v * (1 + ulps), -v * (1 + ulps)});
     std::vector<Zor32f> got(src.size()), want(src.size());
-    for (const int scaleFactor : scaleFactors(-130, 170)) {
-        ASSERT_EQ(zorsConvert_16s32f_Sfs(src.data(), got.data(), 65536, scaleFactor), zorStsOk);
-        std::transform(src.begin(), src.end(), want.begin(),
-                       [=](Zor16s v) { return static_cast<Zor32f>(scaled(v, scaleFactor)); });
-        ASSERT_EQ(std::memcmp(got.data(), want.data(), got.size() * sizeof got[0]), 0) << scaleFactor;
+    std::transform(src.begin(), src.end(), want.begin(), [](Zor64f v) { return static_cast<Zor32f>(v); });
+    for (const unsigned control : controls) {
+        underControl(control,
+                     [&] { zorsConvert_64f32f(src.data(), got.data(), static_cast<int>(src.size())); });
+        EXPECT_EQ(std::memcmp(got.data(), want.data(), got.size() * sizeof got[0]), 0) << std::hex << control;
     }
 }
 
-TEST(IntegerToFloat, EveryLengthAndOffset)
+template <class S, class D>
+void expectFrom24(Conversion<Zor8u, D> function)
 {
-    expectSame<Zor16s, Zor32f>(
-        [](auto* pSrc, auto* pDst, int len) { return zorsConvert_16s32f_Sfs(pSrc, pDst, len, 3); },
-        [](auto* pSrc, auto* pDst, int len) {
-            for (int n = 0; n < len; ++n) pDst[n] = static_cast<Zor32f>(pSrc[n]) / 8;
-        });
+    expectSame<Zor8u, D>(function,
+                         [](const Zor8u* pSrc, D* pDst, int len) {
+                             for (int n = 0; n < len; ++n) {
+                                 S wide = 0;
+                                 std::memcpy(reinterpret_cast<char*>(&wide) + 1, pSrc + 3 * n, 3);
+                                 pDst[n] = static_cast<D>(wide >> 8);
+                             }
+                         },
+                         {3, 1});
 }
 
-Zor16s to16s(Zor32f value, ZorRoundMode rndMode, int scaleFactor)
+TEST(Widening, PackedIntegers)
 {
-    const double exact = scaled(value, scaleFactor);
-    if (std::isnan(exact)) return 0;
-    const double whole = rndMode == zorRndZero   ? std::trunc(exact)
-                         : rndMode == zorRndNear ? std::nearbyint(exact)
-                                                 : std::round(exact);
-    return static_cast<Zor16s>(std::clamp(whole, -32768.0, 32767.0));
+    expectFrom24<Zor32s>(zorsConvert_24s32s);
+    expectFrom24<Zor32u>(zorsConvert_24u32u);
+    expectFrom24<Zor32s>(zorsConvert_24s32f);
+    expectFrom24<Zor32u>(zorsConvert_24u32f);
 }
 
-// Values on, beside and far from every kind of boundary, with either sign.
-std::vector<Zor32f> awkwardFloats()
-{
-    std::vector<Zor32f> all;
-    const auto around = [&](Zor32f v) {
-        for (const Zor32f w : {v, std::nextafter(v, 0.0f), std::nextafter(v, INFINITY)})
-            all.insert(all.end(), {w, -w});
-    };
-    for (const Zor32f v :
-         {0.0f, 0.5f, 1.0f, 1.5f, 2.5f, 3.5f, 32766.5f, 32767.0f, 32767.5f, 32768.0f, 32768.5f, 32769.0f,
-          40000.0f, 8388608.0f, 2147483648.0f, 4294967296.0f, FLT_MIN, FLT_MAX})
-        around(v);
-    all.insert(all.end(), {FLT_TRUE_MIN, -FLT_TRUE_MIN, INFINITY, -INFINITY, NAN, -NAN});
-    Random random;
-    std::uniform_real_distribution<Zor32f> number(-40000, 40000);
-    for (int i = 0; i < 300; ++i)
-        all.push_back(std::round(2 * number(random)) / 2), all.push_back(number(random));
-    return all;
-}
+constexpr int scaleFactors[] = {0,    1,    -1,   7,    16,    31,    100,   -96,     -97,     -112,
+                                -113, -127, -128, 120,  121,   125,   126,   127,     128,     133,
+                                149,  150,  157,  158,  179,   180,   181,   -120,    -121,    240,
+                                241,  -240, 1000, -993, -1000, -1001, -1024, 1001,    1022,    1023,
+                                1074, 1075, 1090, 1105, 1106,  2001,  -2001, INT_MAX, INT_MIN, INT_MIN + 1};
 
-constexpr ZorRoundMode modes[] = {zorRndZero, zorRndNear, zorRndFinancial, 7, -1};
-
-TEST(FloatToInteger, RoundsAsAskedWhateverTheRoundingControl)
+// A double holds every scaled integer but those that round as denormal, which it rounds once.
+template <class S, class D>
+void expectScales(ZorStatus (*function)(const S*, D*, int, int), const std::vector<S>& src)
 {
-    constexpr unsigned control = 0xffc0; // all of the register but the exception flags
-    const std::vector<Zor32f> src = awkwardFloats();
+    std::vector<D> got(src.size()), want(src.size());
     const int len = static_cast<int>(src.size());
-    std::vector<Zor16s> got(src.size()), want(src.size());
-    for (const ZorRoundMode mode : modes)
-        for (const int scaleFactor : scaleFactors(-170, 150)) {
-            std::transform(src.begin(), src.end(), want.begin(),
-                           [=](Zor32f v) { return to16s(v, mode, scaleFactor); });
-            for (const int direction : {FE_TONEAREST, FE_UPWARD, FE_DOWNWARD, FE_TOWARDZERO}) {
-                std::fesetround(direction);
-                const unsigned before = _mm_getcsr() & control;
-                const ZorStatus status =
-                    zorsConvert_32f16s_Sfs(src.data(), got.data(), len, mode, scaleFactor);
-                const unsigned after = _mm_getcsr() & control;
-                std::fesetround(FE_TONEAREST);
-                ASSERT_EQ(status, zorStsOk);
-                ASSERT_EQ(before, after);
-                const auto at = std::mismatch(got.begin(), got.end(), want.begin());
-                ASSERT_TRUE(at.first == got.end())
-                    << src[static_cast<std::size_t>(at.first - got.begin())] << " gives " << *at.first
-                    << ", not " << *at.second << ": mode " << mode << ", scale factor " << scaleFactor
-                    << ", direction " << direction;
-            }
+    for (const int scaleFactor : scaleFactors) {
+        const int exponent = -std::clamp(scaleFactor, -3000, 3000);
+        std::transform(src.begin(), src.end(), want.begin(),
+                       [=](S v) { return static_cast<D>(std::ldexp(static_cast<double>(v), exponent)); });
+        for (const unsigned control : controls) {
+            ZorStatus status = zorStsOk;
+            underControl(control, [&] { status = function(src.data(), got.data(), len, scaleFactor); });
+            ASSERT_EQ(status, zorStsOk);
+            ASSERT_EQ(std::memcmp(got.data(), want.data(), got.size() * sizeof got[0]), 0)
+                << "scale factor " << scaleFactor << ", control " << std::hex << control;
         }
+    }
 }
 
-TEST(FloatToInteger, EveryLengthAndOffset)
+TEST(Scaling, IntegersToFloatsWithOneRounding)
 {
-    for (const ZorRoundMode mode : modes)
-        expectSame<Zor32f, Zor16s>([=](auto* pSrc, auto* pDst,
-                                       int len) { return zorsConvert_32f16s_Sfs(pSrc, pDst, len, mode, -1); },
-                                   [=](auto* pSrc, auto* pDst, int len) {
-                                       for (int n = 0; n < len; ++n) pDst[n] = to16s(pSrc[n], mode, -1);
-                                   },
-                                   {}, Lengths::small);
+    std::vector<Zor16s> words(65536);
+    std::iota(words.begin(), words.end(), std::numeric_limits<Zor16s>::min());
+    expectScales(zorsConvert_16s32f_Sfs, words);
+    expectScales(zorsConvert_16s64f_Sfs, words);
+
+    std::vector<Zor32s> all{INT_MIN, INT_MIN + 1, INT_MAX, INT_MAX - 1, 0};
+    for (int bit = 0; bit < 31; ++bit)
+        for (int more : {-3, -2, -1, 0, 1, 2, 3})
+            all.insert(all.end(), {(1 << bit) + more, -(1 << bit) - more});
+    // Ties of a float, and of a float that was a tie of 32 bits before.
+    for (int low : {0x7f, 0x80, 0x81, 0x17f, 0x180, 0x181, 0x3f, 0x40, 0x41})
+        for (int high : {0x40000000, 0x7fffff00, 0x55555400})
+            all.insert(all.end(), {high + low - 256, 256 - low - high});
+    Random random;
+    for (int i = 0; i < 1000; ++i) all.push_back(static_cast<Zor32s>(random()));
+    expectScales(zorsConvert_32s32f_Sfs, all);
+    expectScales(zorsConvert_32s64f_Sfs, all);
 }
 
-TEST(FloatToInteger, ValuesOfTheDefinition)
+TEST(Scaling, EveryLengthAndOffset)
 {
-    const auto convert = [](Zor32f value, ZorRoundMode mode, int scaleFactor) {
-        Zor16s result = 99;
-        EXPECT_EQ(zorsConvert_32f16s_Sfs(&value, &result, 1, mode, scaleFactor), zorStsOk);
-        return result;
+    const auto scaled = [](auto function, int scaleFactor) {
+        return [=](auto* pSrc, auto* pDst, int len) { return function(pSrc, pDst, len, scaleFactor); };
     };
-    EXPECT_EQ(convert(2.5f, zorRndZero, 0), 2);
-    EXPECT_EQ(convert(2.5f, zorRndNear, 0), 2);
-    EXPECT_EQ(convert(2.5f, zorRndFinancial, 0), 3);
-    EXPECT_EQ(convert(-2.5f, zorRndZero, 0), -2);
-    EXPECT_EQ(convert(-2.5f, zorRndNear, 0), -2);
-    EXPECT_EQ(convert(-2.5f, zorRndFinancial, 0), -3);
-    EXPECT_EQ(convert(1.5f, zorRndZero, 1), 0);
-    EXPECT_EQ(convert(1.5f, zorRndNear, 1), 1);
-    EXPECT_EQ(convert(1.5f, zorRndFinancial, 1), 1);
-    for (const ZorRoundMode mode : modes) EXPECT_EQ(convert(40000, mode, 0), 32767);
+    const auto eighth = [](auto* pSrc, auto* pDst, int len) {
+        for (int n = 0; n < len; ++n)
+            pDst[n] = static_cast<std::remove_reference_t<decltype(*pDst)>>(pSrc[n]) / 8;
+    };
+    expectSame<Zor16s, Zor32f>(scaled(zorsConvert_16s32f_Sfs, 3), eighth);
+    expectSame<Zor32s, Zor32f>(scaled(zorsConvert_32s32f_Sfs, 3), eighth);
+    expectSame<Zor16s, Zor64f>(scaled(zorsConvert_16s64f_Sfs, 3), eighth);
+    expectSame<Zor32s, Zor64f>(scaled(zorsConvert_32s64f_Sfs, 3), eighth);
+    // By way of doubles.
+    expectSame<Zor32s, Zor32f>(scaled(zorsConvert_32s32f_Sfs, 150), [](auto* pSrc, auto* pDst, int len) {
+        for (int n = 0; n < len; ++n) pDst[n] = static_cast<Zor32f>(pSrc[n] * 0x1p-150);
+    });
 }
 
 } // namespace

@@ -1,0 +1,205 @@
+#include "support/control.h"
+#include "support/oracle.h"
+
+#include <zors.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <numeric>
+
+namespace {
+
+using namespace zors::test;
+
+// A law by its decoder output values and its decision values, magnitudes in 16-bit samples: number n of 128.
+struct Law {
+    int (*output)(int n);
+    int (*decision)(int n); // the least magnitude of the interval
+    int inverted;
+    double fullScale;      // the decision value after the last one
+    double fullScaleLevel; // of a sine that reaches it, in dBm0
+};
+
+constexpr Law aLaw{[](int n) { return n < 16 ? 16 * n + 8 : (2 * (n % 16) + 33) << (n / 16 + 2); },
+                   [](int n) { return n < 16 ? 16 * n : (n % 16 + 16) << (n / 16 + 3); }, 0x55, 32768, 3.14};
+constexpr Law muLaw{[](int n) { return (((2 * (n % 16) + 33) << n / 16) - 33) * 4; },
+                    [](int n) { return std::max(0, (((n % 16 + 16) << (n / 16 + 1)) - 33) * 4); }, 0x7f,
+                    32636, 3.17};
+
+int numberOf(const Law& law, Zor8u code)
+{
+    return (code ^ law.inverted) & 0x7f;
+}
+
+Zor8u codeOf(const Law& law, int number, bool positive)
+{
+    return static_cast<Zor8u>((number ^ law.inverted) | (positive ? 0x80 : 0));
+}
+
+int decoded(const Law& law, Zor8u code)
+{
+    const int magnitude = law.output(numberOf(law, code));
+    return code & 0x80 ? magnitude : -magnitude;
+}
+
+// The last interval that begins at or below a magnitude.
+int intervalOf(const Law& law, double magnitude)
+{
+    int n = 127;
+    while (n > 0 && magnitude < law.decision(n)) --n;
+    return n;
+}
+
+// A sample on a decision value belongs to the interval above it, so a negative one to that of the lesser magnitude.
+Zor8u encoded(const Law& law, double sample)
+{
+    if (std::isnan(sample)) sample = 0;
+    if (sample >= 0) return codeOf(law, intervalOf(law, sample), true);
+    return codeOf(law, intervalOf(law, std::nextafter(-sample, 0)), false);
+}
+
+std::array<Zor8u, 256> allCodes()
+{
+    std::array<Zor8u, 256> all;
+    std::iota(all.begin(), all.end(), Zor8u{0});
+    return all;
+}
+
+template <class T>
+void expectDecodes(const Law& law, ZorStatus (*function)(const Zor8u*, T*, int))
+{
+    const auto codes = allCodes();
+    for (const unsigned control : controls) {
+        T got[256];
+        underControl(control, [&] { function(codes.data(), got, 256); });
+        for (const Zor8u code : codes) EXPECT_EQ(got[code], decoded(law, code)) << int{code};
+    }
+    expectSame<Zor8u, T>(function, [&](auto* pSrc, auto* pDst, int len) {
+        for (int n = 0; n < len; ++n)
+            pDst[n] = static_cast<T>(std::copysign(decoded(law, pSrc[n]), pSrc[n] & 0x80 ? 1 : -1));
+    });
+}
+
+TEST(Companding, Expands)
+{
+    expectDecodes(aLaw, zorsALawToLin_8u16s);
+    expectDecodes(aLaw, zorsALawToLin_8u32f);
+    expectDecodes(muLaw, zorsMuLawToLin_8u16s);
+    expectDecodes(muLaw, zorsMuLawToLin_8u32f);
+    Zor8u code = 0;
+    Zor16s sample = 0;
+    EXPECT_TRUE(zorsALawToLin_8u16s(&code, &sample, 1) == zorStsOk && sample == -5504);
+    EXPECT_TRUE(zorsMuLawToLin_8u16s(&code, &sample, 1) == zorStsOk && sample == -32124);
+}
+
+template <class T>
+using Encoder = ZorStatus (*)(const T*, Zor8u*, int);
+
+template <class T>
+void expectEncodes(const Law& law, Encoder<T> function, const std::vector<T>& src)
+{
+    std::vector<Zor8u> want(src.size()), got(src.size());
+    std::transform(src.begin(), src.end(), want.begin(),
+                   [&](T v) { return encoded(law, static_cast<double>(v)); });
+    for (const unsigned control : controls) {
+        underControl(control, [&] { function(src.data(), got.data(), static_cast<int>(src.size())); });
+        for (std::size_t n = 0; n < src.size(); ++n)
+            ASSERT_EQ(got[n], want[n]) << src[n] << ", control " << std::hex << control;
+    }
+    expectSame<T, Zor8u>(
+        function,
+        [&](auto* pSrc, auto* pDst, int len) {
+            for (int n = 0; n < len; ++n) pDst[n] = encoded(law, static_cast<double>(pSrc[n]));
+        },
+        {}, Lengths::small);
+}
+
+std::vector<Zor16s> allSamples()
+{
+    std::vector<Zor16s> all(65536);
+    std::iota(all.begin(), all.end(), std::numeric_limits<Zor16s>::min());
+    return all;
+}
+
+// On and beside every decision value and every decoded one, and beyond them.
+std::vector<Zor32f> floatsBetween(const Law& law)
+{
+    std::vector<Zor32f> all{NAN, INFINITY, 3e38f, 1e-45f, 40000, 32767.5f, 32768};
+    for (int n = 0; n < 128; ++n)
+        for (const int v : {law.decision(n), law.output(n)}) {
+            const auto middle = static_cast<Zor32f>(v);
+            for (const Zor32f beside : {0.0f, 0.25f, 1.0f})
+                all.insert(all.end(), {middle + beside, middle - beside});
+            all.insert(all.end(), {std::nextafter(middle, INFINITY), std::nextafter(middle, -INFINITY)});
+        }
+    const std::size_t count = all.size();
+    for (std::size_t i = 0; i < count; ++i) all.push_back(-all[i]);
+    return all;
+}
+
+TEST(Companding, Compresses)
+{
+    expectEncodes(aLaw, zorsLinToALaw_16s8u, allSamples());
+    expectEncodes(muLaw, zorsLinToMuLaw_16s8u, allSamples());
+    expectEncodes(aLaw, zorsLinToALaw_32f8u, floatsBetween(aLaw));
+    expectEncodes(muLaw, zorsLinToMuLaw_32f8u, floatsBetween(muLaw));
+}
+
+template <class T>
+void expectInverse(Encoder<T> encode, ZorStatus (*decode)(const Zor8u*, T*, int), int negativeZero)
+{
+    const auto codes = allCodes();
+    T samples[256];
+    Zor8u back[256];
+    ASSERT_EQ(decode(codes.data(), samples, 256), zorStsOk);
+    ASSERT_EQ(encode(samples, back, 256), zorStsOk);
+    for (const Zor8u code : codes)
+        EXPECT_EQ(back[code], code == negativeZero ? code | 0x80 : code) << int{code};
+}
+
+TEST(Companding, EveryCodeDecodesAndEncodesToItself)
+{
+    expectInverse(zorsLinToALaw_16s8u, zorsALawToLin_8u16s, -1);
+    expectInverse(zorsLinToALaw_32f8u, zorsALawToLin_8u32f, -1);
+    expectInverse(zorsLinToMuLaw_16s8u, zorsMuLawToLin_8u16s, 0x7f);
+    expectInverse(zorsLinToMuLaw_32f8u, zorsMuLawToLin_8u32f, 0x7f);
+}
+
+void expectConverts(const Law& from, const Law& to, ZorStatus (*function)(const Zor8u*, Zor8u*, int))
+{
+    const auto amplitude = [](const Law& law) {
+        return law.fullScale / std::pow(10, law.fullScaleLevel / 20);
+    };
+    const double ratio = amplitude(to) / amplitude(from);
+    const auto codes = allCodes();
+    std::array<Zor8u, 256> converted;
+    for (const Zor8u code : codes)
+        converted[code] = codeOf(to, intervalOf(to, ratio * from.output(numberOf(from, code))), code & 0x80);
+    for (const unsigned control : controls) {
+        Zor8u got[256];
+        underControl(control, [&] { function(codes.data(), got, 256); });
+        for (const Zor8u code : codes) EXPECT_EQ(got[code], converted[code]) << int{code};
+    }
+    expectSame<Zor8u, Zor8u>(function, [&](auto* pSrc, auto* pDst, int len) {
+        std::transform(pSrc, pSrc + len, pDst, [&](Zor8u code) { return converted[code]; });
+    });
+}
+
+TEST(Companding, ConvertsBetweenTheLaws)
+{
+    expectConverts(aLaw, muLaw, zorsALawToMuLaw_8u);
+    expectConverts(muLaw, aLaw, zorsMuLawToALaw_8u);
+    // Entries of the Recommendation's conversion tables.
+    Zor8u codes[] = {0xff, 0xfe, 0xfd, 0x80, 0x00, codeOf(muLaw, 48, true), codeOf(muLaw, 80, true)};
+    ASSERT_EQ(zorsMuLawToALaw_8u(codes, codes, 7), zorStsOk);
+    EXPECT_EQ(codes[0], codeOf(aLaw, 0, true));
+    EXPECT_EQ(codes[1], codeOf(aLaw, 0, true));
+    EXPECT_EQ(codes[2], codeOf(aLaw, 1, true));
+    EXPECT_EQ(codes[3], codeOf(aLaw, 127, true));
+    EXPECT_EQ(codes[4], codeOf(aLaw, 127, false));
+    EXPECT_EQ(codes[5], codeOf(aLaw, 45, true));
+    EXPECT_EQ(codes[6], codeOf(aLaw, 80, true));
+}
+
+} // namespace

@@ -1,0 +1,186 @@
+// Half floats.
+#include "support/control.h"
+#include "support/integers.h"
+#include "support/oracle.h"
+
+#include <zors.h>
+
+#include <algorithm>
+#include <climits>
+#include <cmath>
+#include <numeric>
+
+namespace {
+
+using namespace zors::test;
+
+constexpr ZorRoundMode modes[] = {zorRndZero, zorRndNear};
+
+std::vector<Zor16f> allHalves()
+{
+    std::vector<Zor16f> all(65536);
+    std::iota(all.begin(), all.end(), Zor16f{0});
+    return all;
+}
+
+std::uint32_t bitsOf(Zor32f v)
+{
+    std::uint32_t bits;
+    std::memcpy(&bits, &v, sizeof bits);
+    return bits;
+}
+
+Zor32f floatOf(std::uint32_t bits)
+{
+    Zor32f v;
+    std::memcpy(&v, &bits, sizeof v);
+    return v;
+}
+
+bool isFinite(Zor16f h)
+{
+    return (h & 0x7c00) != 0x7c00;
+}
+
+Zor32f fromHalf(Zor16f h)
+{
+    const int exponent = h >> 10 & 31, fraction = h & 1023;
+    if (!isFinite(h))
+        return floatOf((h & 0x8000u) << 16 | 0x7f800000u | (fraction ? 0x400000u : 0) |
+                       static_cast<std::uint32_t>(fraction) << 13);
+    const double magnitude =
+        exponent ? std::ldexp(1024 + fraction, exponent - 25) : std::ldexp(fraction, -24);
+    return static_cast<Zor32f>(h & 0x8000 ? -magnitude : magnitude);
+}
+
+// A half counts up with its bits, and so do its units: in the place of the value they are whole numbers.
+Zor16f toHalf(Zor32f v, ZorRoundMode rndMode)
+{
+    const std::uint32_t bits = bitsOf(v), sign = bits >> 16 & 0x8000, payload = bits >> 13 & 0x3ff;
+    if (std::isnan(v)) return static_cast<Zor16f>(sign | 0x7e00 | payload);
+    if (std::isinf(v)) return static_cast<Zor16f>(sign | 0x7c00);
+    const double magnitude = std::fabs(v);
+    const int exponent = std::max(magnitude > 0 ? std::ilogb(magnitude) : -14, -14);
+    const double units = std::ldexp(magnitude, 10 - exponent);
+    const double whole = rndMode == zorRndZero ? std::trunc(units) : std::nearbyint(units);
+    const double code = whole + (exponent + 14) * 1024.0;
+    return static_cast<Zor16f>(
+        sign | static_cast<std::uint32_t>(std::min(code, rndMode == zorRndZero ? 31743.0 : 31744.0)));
+}
+
+// Every half, what lies between it and the next one, and the neighbours of all these.
+std::vector<Zor32f> aroundHalves()
+{
+    std::vector<Zor32f> all{0x1p-149f,           0x1p-126f,           3e38f,
+                            floatOf(0x7f800001), floatOf(0x7fc00000), floatOf(0x7fffffff),
+                            floatOf(0x7f80a000)};
+    for (const Zor16f h : allHalves())
+        if (h < 0x8000) {
+            const std::uint32_t bits = bitsOf(fromHalf(h)),
+                                between = bitsOf(fromHalf(h) +
+                                                 (fromHalf(static_cast<Zor16f>(h + 1)) - fromHalf(h)) / 2);
+            for (const std::uint32_t b : {bits, bits + 1, between - 1, between, between + 1})
+                if (isFinite(h)) all.push_back(floatOf(b));
+        }
+    for (const Zor32f v : {65504.0f, 65519.996f, 65520.0f, 65535.996f, 65536.0f, INFINITY}) all.push_back(v);
+    const std::size_t count = all.size();
+    for (std::size_t i = 0; i < count; ++i) all.push_back(-all[i]);
+    return all;
+}
+
+template <class S, class D, class Function, class Oracle>
+void expectAll(const std::vector<S>& src, Function function, Oracle oracle,
+               Lengths lengths = Lengths::smallAndLong)
+{
+    std::vector<D> got(src.size());
+    for (const unsigned control : controls) {
+        ZorStatus status = zorStsOk;
+        underControl(control,
+                     [&] { status = function(src.data(), got.data(), static_cast<int>(src.size())); });
+        ASSERT_EQ(status, zorStsOk);
+        for (std::size_t n = 0; n < src.size(); ++n) {
+            const D want = oracle(src[n]);
+            ASSERT_EQ(std::memcmp(&got[n], &want, sizeof want), 0)
+                << src[n] << " gives " << got[n] << ", not " << want << ", control " << std::hex << control;
+        }
+    }
+    expectSame<S, D>(
+        function, [=](auto* pSrc, auto* pDst, int len) { std::transform(pSrc, pSrc + len, pDst, oracle); },
+        {}, lengths);
+}
+
+TEST(Half, ToFloat)
+{
+    expectAll<Zor16f, Zor32f>(allHalves(), zorsConvert_16f32f, fromHalf);
+}
+
+TEST(Half, FromFloat)
+{
+    for (const ZorRoundMode mode : modes)
+        expectAll<Zor32f, Zor16f>(
+            aroundHalves(),
+            [=](auto* pSrc, auto* pDst, int len) { return zorsConvert_32f16f(pSrc, pDst, len, mode); },
+            [=](Zor32f v) { return toHalf(v, mode); });
+}
+
+TEST(Half, FromInteger)
+{
+    std::vector<Zor16s> all(65536);
+    std::iota(all.begin(), all.end(), std::numeric_limits<Zor16s>::min());
+    for (const ZorRoundMode mode : modes)
+        expectAll<Zor16s, Zor16f>(
+            all, [=](auto* pSrc, auto* pDst, int len) { return zorsConvert_16s16f(pSrc, pDst, len, mode); },
+            [=](Zor16s v) { return toHalf(v, mode); });
+}
+
+TEST(Half, ToInteger)
+{
+    for (const ZorRoundMode mode : modes)
+        for (const int scaleFactor : {0, 1, -1, 5, 16, -24, -39, 121, -121, INT_MIN, INT_MAX}) {
+            SCOPED_TRACE(scaleFactor);
+            expectAll<Zor16f, Zor16s>(
+                allHalves(),
+                [=](auto* pSrc, auto* pDst, int len) {
+                    return zorsConvert_16f16s_Sfs(pSrc, pDst, len, mode, scaleFactor);
+                },
+                [=](Zor16f h) {
+                    const double exact = std::ldexp(fromHalf(h), -std::clamp(scaleFactor, -1000, 1000));
+                    const double whole = mode == zorRndZero ? std::trunc(exact) : std::nearbyint(exact);
+                    return static_cast<Zor16s>(std::isnan(exact) ? 0 : std::clamp(whole, -32768.0, 32767.0));
+                },
+                scaleFactor == 1 ? Lengths::smallAndLong : Lengths::small);
+        }
+}
+
+TEST(Half, OverflowGoesByTheRounding)
+{
+    const auto convert = [](Zor32f v, ZorRoundMode mode) {
+        Zor16f half = 0;
+        EXPECT_EQ(zorsConvert_32f16f(&v, &half, 1, mode), zorStsOk);
+        return half;
+    };
+    EXPECT_EQ(convert(65536, zorRndNear), 0x7c00);
+    EXPECT_EQ(convert(65536, zorRndZero), 0x7bff);
+    EXPECT_EQ(convert(-3e38f, zorRndZero), 0xfbff);
+    EXPECT_EQ(convert(-INFINITY, zorRndZero), 0xfc00);
+}
+
+TEST(Half, HasTwoRoundingModes)
+{
+    const Zor32f one = 1;
+    const Zor16s two = 2;
+    const Zor16f three = 0x4200;
+    Zor16f half = 7;
+    Zor16s word = 8;
+    for (const ZorRoundMode mode :
+         {ZorRoundMode{-1}, ZorRoundMode{zorRndFinancial}, ZorRoundMode{3}, ZorRoundMode{INT_MIN}}) {
+        EXPECT_EQ(zorsConvert_32f16f(&one, &half, 1, mode), zorStsBadRoundMode);
+        EXPECT_EQ(zorsConvert_16s16f(&two, &half, 1, mode), zorStsBadRoundMode);
+        EXPECT_EQ(zorsConvert_16f16s_Sfs(&three, &word, 1, mode, 0), zorStsBadRoundMode);
+        EXPECT_EQ(zorsConvert_32f16f(&one, &half, 0, mode), zorStsBadSize);
+    }
+    EXPECT_EQ(half, 7);
+    EXPECT_EQ(word, 8);
+}
+
+} // namespace
