@@ -8,6 +8,9 @@
 #include <zors/frame/memory.h>
 #include <zors/frame/version.h>
 
+#include <zors/generate/random.h>
+#include <zors/generate/windows.h>
+
 #include <zors/vector/arithmetic.h>
 #include <zors/vector/arithmetic_scaled.h>
 #include <zors/vector/bits.h>

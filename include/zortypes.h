@@ -132,6 +132,18 @@ enum {
     ZOR_ALG_PRECISION = 2 /**< more precise */
 };
 
+/** A window, where a function takes one by number. */
+typedef Zor32s ZorWinType;
+
+/** The values of @ref ZorWinType; every other one stands for no window, too. */
+enum {
+    zorWinBartlett = 0, /**< zorsWinBartlett */
+    zorWinBlackman = 1, /**< zorsWinBlackmanOpt */
+    zorWinHamming = 2,  /**< zorsWinHamming */
+    zorWinHann = 3,     /**< zorsWinHann */
+    zorWinRect = 4      /**< no window */
+};
+
 /** The version record that zorsGetLibVersion() returns. */
 typedef struct {
     Zor32s versionMajor;     /**< 8 */
@@ -143,6 +155,17 @@ typedef struct {
     const char* versionText; /**< version for display */
     const char* buildDate;   /**< date of the build */
 } ZorLibraryVersion;
+
+/** @name Records of random generators
+ * @{
+ */
+typedef struct ZorRandUniformState_8u ZorRandUniformState_8u;   /**< uniform `8u` */
+typedef struct ZorRandUniformState_16s ZorRandUniformState_16s; /**< uniform `16s` */
+typedef struct ZorRandUniformState_32f ZorRandUniformState_32f; /**< uniform `32f` */
+typedef struct ZorRandGaussState_8u ZorRandGaussState_8u;       /**< normal `8u` */
+typedef struct ZorRandGaussState_16s ZorRandGaussState_16s;     /**< normal `16s` */
+typedef struct ZorRandGaussState_32f ZorRandGaussState_32f;     /**< normal `32f` */
+/** @} */
 
 /**
  * Declares one public function. The library and its tests give the macro other meanings and include the

@@ -15,6 +15,13 @@ bool nameHas(const Export& e, std::string_view code)
     return e.name.find(code) != std::string::npos;
 }
 
+// Small enough for a Kaiser window of every length here.
+template <class T>
+T windowAlpha(Random& random)
+{
+    return static_cast<T>(random.below(2001) - 1000) * T(0.00029);
+}
+
 // Scalars with a meaning get values that exercise it; all others any value of their type.
 void setScalar(const Export& e, const Parameter& p, Value& value, Random& random)
 {
@@ -25,6 +32,12 @@ void setScalar(const Export& e, const Parameter& p, Value& value, Random& random
         value.set(random.below(nameHas(e, "16f") ? 2 : 3));
     else if (p.name == "hint")
         value.set(random.below(3));
+    else if (p.name == "alpha" && p.size == sizeof(Zor32f))
+        value.set(windowAlpha<Zor32f>(random));
+    else if (p.name == "alpha")
+        value.set(windowAlpha<Zor64f>(random));
+    else if (p.name == "alphaQ15")
+        value.set(random.below(0x8000) - 0x4000);
     else if (p.name == "srcBitOffset" || p.name == "dstBitOffset")
         value.set(random.below(18));
     else if (p.name == "magn") {

@@ -23,10 +23,12 @@ struct LeastLength {
     std::string_view function;
     int least;
 };
-inline constexpr LeastLength leastLengths[] = {{"zorsStdDev_", 2}, {"zorsMeanStdDev_", 2}};
+inline constexpr LeastLength leastLengths[] = {
+    {"zorsStdDev_", 2},     {"zorsMeanStdDev_", 2}, {"zorsWinBlackmanOpt_", 4}, {"zorsWinBartlett_", 3},
+    {"zorsWinBlackman", 3}, {"zorsWinHamming_", 3}, {"zorsWinHann_", 3}};
 
 // Functions that check the length before the pointers.
-inline constexpr std::string_view lengthFirst[] = {"zorsAdd_16sc_", "zorsSub_16sc_"};
+inline constexpr std::string_view lengthFirst[] = {"zorsAdd_16sc_", "zorsSub_16sc_", "zorsWinBlackmanOpt_"};
 
 // Scalars with a forbidden value, -1 or 0, found behind the lengths in the order of the arguments, by the beginning
 // of the function's name.
