@@ -1,0 +1,345 @@
+// Random numbers: known answers worked out from the recurrences by other means, a plain oracle, any split of calls,
+// records, and what the distributions should look like.
+#include <algorithm>
+#include <cmath>
+#include <dlfcn.h>
+#include <gtest/gtest.h>
+#include <vector>
+#include <zorcore.h>
+#include <zors.h>
+
+namespace {
+
+bool outOfMemory = false;
+int blocks = 0; // that the library has taken and not given back
+
+template <class Function>
+Function* next(const char* name)
+{
+    return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
+}
+
+} // namespace
+
+// The program's own come before those of the core library.
+void* zorMalloc(int size)
+{
+    if (outOfMemory) return nullptr;
+    ++blocks;
+    return next<void*(int)>("zorMalloc")(size);
+}
+
+void zorFree(void* pMemory)
+{
+    --blocks;
+    next<void(void*)>("zorFree")(pMemory);
+}
+
+namespace zors::test {
+namespace {
+
+// One step at a time, as the recurrences are written.
+class Oracle {
+public:
+    explicit Oracle(Zor32u seed) : x1_(seed), x2_(69069 * x1_ + 1013904243), x3_(69069 * x2_ + 1013904243) {}
+
+    double word()
+    {
+        Zor32u t = x2_ - x3_ - (borrow_ ? 1u : 0u);
+        borrow_ = t >= 0x80000000u;
+        if (borrow_) t -= 18;
+        x3_ = x2_;
+        x2_ = x1_;
+        x1_ = t;
+        y_ = 69069 * y_ + 1013904243;
+        return static_cast<Zor32s>(t + y_);
+    }
+
+    double uniform(double low, double high)
+    {
+        return (low + high) * 0.5 + (high - low) * 2.3283064365387e-10 * word();
+    }
+
+    double normal(double mean, double stdDev)
+    {
+        if (pending_) {
+            pending_ = false;
+            return u1_ * (stdDev * factor_) + mean;
+        }
+        double s;
+        do {
+            u1_ = word() * 4.656612873077e-10;
+            u2_ = word() * 4.656612873077e-10;
+            s = u1_ * u1_ + u2_ * u2_;
+        } while (s >= 1 || s == 0);
+        factor_ = std::sqrt(-2.0 * std::log(s) / s);
+        pending_ = true;
+        return u2_ * (stdDev * factor_) + mean;
+    }
+
+    Zor32u newest() const { return x1_; }
+
+private:
+    Zor32u x1_, x2_, x3_, y_ = 1131199209;
+    bool borrow_ = true, pending_ = false;
+    double u1_ = 0, u2_ = 0, factor_ = 0;
+};
+
+template <class T>
+T toElement(double v)
+{
+    if constexpr (std::is_floating_point_v<T>)
+        return static_cast<T>(v);
+    else
+        return static_cast<T>(std::clamp<double>(std::nearbyint(v), std::numeric_limits<T>::min(),
+                                                 std::numeric_limits<T>::max()));
+}
+
+// The functions of one distribution and type, and the oracle's.
+template <class T, class State>
+struct Family {
+    ZorStatus (*getSize)(int*);
+    ZorStatus (*init)(State*, T, T, Zor32u);
+    ZorStatus (*initAlloc)(State**, T, T, Zor32u);
+    ZorStatus (*free)(State*);
+    ZorStatus (*draw)(T*, int, State*);
+    double (Oracle::*expected)(double, double);
+    int size;
+    T first, second;
+};
+
+#define FAMILY(dist, t, expected, size, ...)                                                                 \
+    Family<Zor##t, ZorRand##dist##State_##t>                                                                 \
+    {                                                                                                        \
+        zorsRand##dist##GetSize_##t, zorsRand##dist##Init_##t, zorsRand##dist##InitAlloc_##t,                \
+            zorsRand##dist##Free_##t, zorsRand##dist##_##t, &Oracle::expected, size, __VA_ARGS__             \
+    }
+
+template <class Body>
+void forEachFamily(Body body)
+{
+    body(FAMILY(Uniform, 8u, uniform, 56, 10, 250));
+    body(FAMILY(Uniform, 16s, uniform, 56, -32768, 32767));
+    body(FAMILY(Uniform, 32f, uniform, 56, -1.5f, 4.0f));
+    body(FAMILY(Gauss, 8u, normal, 64, 20, 60));
+    body(FAMILY(Gauss, 16s, normal, 64, -100, 15000));
+    body(FAMILY(Gauss, 32f, normal, 72, 0.5f, 2.0f));
+}
+
+template <class T>
+std::vector<T> expectedValues(double (Oracle::*draw)(double, double), Oracle& oracle, double first,
+                              double second, int len)
+{
+    std::vector<T> v(static_cast<std::size_t>(len));
+    for (T& e : v) e = toElement<T>((oracle.*draw)(first, second));
+    return v;
+}
+
+TEST(Random, KnownAnswers)
+{
+    // Over [-2^31, 2^31] a uniform number is the word itself, but for the 14 digits of the factor.
+    const struct {
+        Zor32u seed, next;
+        std::vector<Zor64f> words;
+    } answers[] = {
+        {0,
+         1998354204u,
+         {-2143376656, -1588453546, -1238212167, -415855842, -631588969, 1034660151, 1394023789,
+          -1131461971}},
+        {12345,
+         713992268u,
+         {-852021644, 1853869290, 53130500, 1735112000, 1512398141, 1894285325, 1387043057, 1879143389}},
+        {0xffffffffu,
+         572021150u,
+         {-1667886260, -1588384478, -762721770, -891277170, -156167640, 83748426, -1950100850, 1737172271}},
+    };
+    for (const auto& answer : answers) {
+        Zor32u seed = answer.seed;
+        std::vector<Zor64f> v(8);
+        ASSERT_EQ(zorsRandUniform_Direct_64f(v.data(), 8, -2147483648.0, 2147483648.0, &seed), zorStsOk);
+        EXPECT_EQ(seed, answer.next);
+        for (double& d : v) d = std::round(d);
+        EXPECT_EQ(v, answer.words);
+    }
+
+    Zor32u seed = 12345;
+    std::vector<Zor16s> shorts(8);
+    ASSERT_EQ(zorsRandUniform_Direct_16s(shorts.data(), 8, -1000, 2000, &seed), zorStsOk);
+    EXPECT_EQ(shorts, (std::vector<Zor16s>{-95, 1795, 537, 1712, 1556, 1823, 1469, 1813}));
+    seed = 12345;
+    ASSERT_EQ(zorsRandGauss_Direct_16s(shorts.data(), 8, 100, 3000, &seed), zorStsOk);
+    EXPECT_EQ(shorts, (std::vector<Zor16s>{1334, -467, 2866, 185, -4514, 1230, -181, -2108}));
+    seed = 12345;
+    std::vector<Zor64f> normal(9);
+    ASSERT_EQ(zorsRandGauss_Direct_64f(normal.data(), 9, 0.5, 2.0, &seed), zorStsOk);
+    EXPECT_EQ(seed, 2750862402u);
+    const double expected[] = {1.3224486111003166, 0.12201001898294117, 2.344155736297717,
+                               0.5564695053387712, -2.5760276705491303, 1.2535712863081305,
+                               0.3125796218995138, -0.9716998689607343, 2.5890025023235377};
+    for (std::size_t i = 0; i < 9; ++i) EXPECT_DOUBLE_EQ(normal[i], expected[i]);
+}
+
+// Every call continues the sequence, whatever the lengths, and a record may lie at any multiple of 8.
+TEST(Random, AnySplitGivesTheSameSequence)
+{
+    forEachFamily([]<class T, class State>(Family<T, State> f) {
+        alignas(64) Zor64u memory[17];
+        std::fill(std::begin(memory), std::end(memory), 0xa5a5a5a5a5a5a5a5u);
+        auto* state = reinterpret_cast<State*>(memory + 3);
+        ASSERT_EQ(f.init(state, f.first, f.second, 20261121), zorStsOk);
+        Oracle oracle(20261121);
+        for (int i = 0; i < 4; ++i)
+            for (const int len : {1, 2, 3, 5, 255, 256, 257, 7, 511, 513, 1, 1000}) {
+                std::vector<T> v(static_cast<std::size_t>(len));
+                ASSERT_EQ(f.draw(v.data(), len, state), zorStsOk);
+                ASSERT_EQ(v, expectedValues<T>(f.expected, oracle, f.first, f.second, len)) << len;
+            }
+        ASSERT_EQ(f.free(state), zorStsOk);
+        for (int i = 0; i < 17; ++i)
+            ASSERT_TRUE((i >= 3 && i < 3 + f.size / 8) || memory[i] == 0xa5a5a5a5a5a5a5a5u)
+                << "beside the record";
+    });
+}
+
+template <class T>
+void expectDirect(ZorStatus (*direct)(T*, int, T, T, Zor32u*), double (Oracle::*draw)(double, double),
+                  T first, T second)
+{
+    Zor32u seed = 7;
+    for (const int len : {1, 2, 3, 256, 257, 1000}) {
+        Oracle oracle(seed);
+        const auto expected = expectedValues<T>(draw, oracle, first, second, len);
+        std::vector<T> v(static_cast<std::size_t>(len));
+        ASSERT_EQ(direct(v.data(), len, first, second, &seed), zorStsOk);
+        ASSERT_EQ(v, expected) << len;
+        ASSERT_EQ(seed, oracle.newest()) << len;
+    }
+}
+
+TEST(Random, DirectFormsStartAnew)
+{
+    expectDirect<Zor16s>(zorsRandUniform_Direct_16s, &Oracle::uniform, -7, 30000);
+    expectDirect<Zor32f>(zorsRandUniform_Direct_32f, &Oracle::uniform, 3, 3);
+    expectDirect<Zor64f>(zorsRandUniform_Direct_64f, &Oracle::uniform, 5, -1);
+    expectDirect<Zor16s>(zorsRandGauss_Direct_16s, &Oracle::normal, 0, 32767);
+    expectDirect<Zor32f>(zorsRandGauss_Direct_32f, &Oracle::normal, 1, 0.5f);
+    expectDirect<Zor64f>(zorsRandGauss_Direct_64f, &Oracle::normal, -3, 2);
+}
+
+TEST(Random, Records)
+{
+    forEachFamily([]<class T, class State>(Family<T, State> f) {
+        int size = 0;
+        EXPECT_EQ(f.getSize(&size), zorStsOk);
+        EXPECT_EQ(size, f.size);
+        State* state = nullptr;
+        ASSERT_EQ(f.initAlloc(&state, f.first, f.second, 1), zorStsOk);
+        T v[4] = {}, w[4] = {};
+        EXPECT_EQ(f.draw(v, 4, state), zorStsOk);
+        EXPECT_EQ(f.init(state, f.first, f.second, 1), zorStsOk) << "starts again";
+        EXPECT_EQ(f.draw(w, 4, state), zorStsOk);
+        EXPECT_TRUE(std::equal(v, v + 4, w));
+        // That made the record the caller's.
+        EXPECT_EQ(f.free(state), zorStsOk);
+        EXPECT_EQ(f.draw(w, 4, state), zorStsWrongContext);
+        EXPECT_EQ(f.free(state), zorStsWrongContext);
+        EXPECT_EQ(blocks, 1);
+        zorsFree(state);
+        ASSERT_EQ(f.initAlloc(&state, f.first, f.second, 1), zorStsOk);
+        EXPECT_EQ(blocks, 1);
+        EXPECT_EQ(f.free(state), zorStsOk);
+        EXPECT_EQ(blocks, 0);
+        outOfMemory = true;
+        EXPECT_EQ(f.initAlloc(&state, f.first, f.second, 1), zorStsNoMemory);
+        EXPECT_EQ(f.initAlloc(nullptr, f.first, f.second, 1), zorStsNullPointer);
+        outOfMemory = false;
+
+        EXPECT_EQ(f.getSize(nullptr), zorStsNullPointer);
+        EXPECT_EQ(f.init(nullptr, f.first, f.second, 1), zorStsNullPointer);
+        EXPECT_EQ(f.initAlloc(nullptr, f.first, f.second, 1), zorStsNullPointer);
+        EXPECT_EQ(f.free(nullptr), zorStsNullPointer);
+    });
+}
+
+// Pointers, then the length, then the tag; nothing is written.
+TEST(Random, Checks)
+{
+    forEachFamily([]<class T, class State>(Family<T, State> f) {
+        alignas(8) Zor8u memory[80] = {};
+        auto* state = reinterpret_cast<State*>(memory);
+        T v[2] = {T(1), T(2)};
+        EXPECT_EQ(f.draw(nullptr, 0, state), zorStsNullPointer);
+        EXPECT_EQ(f.draw(v, 0, nullptr), zorStsNullPointer);
+        EXPECT_EQ(f.draw(v, 0, state), zorStsBadSize);
+        EXPECT_EQ(f.draw(v, 2, state), zorStsWrongContext);
+        ASSERT_EQ(f.init(state, f.first, f.second, 1), zorStsOk);
+        // Every tag but the family's own is another kind's.
+        for (Zor32s tag = 35; tag <= 40; ++tag) {
+            Zor32s own;
+            std::copy_n(memory, 4, reinterpret_cast<Zor8u*>(&own));
+            if (tag == own) continue;
+            std::copy_n(reinterpret_cast<const Zor8u*>(&tag), 4, memory);
+            EXPECT_EQ(f.draw(v, 2, state), zorStsWrongContext);
+            EXPECT_EQ(f.free(state), zorStsWrongContext);
+            std::copy_n(reinterpret_cast<const Zor8u*>(&own), 4, memory);
+        }
+        EXPECT_TRUE(v[0] == T(1) && v[1] == T(2));
+    });
+}
+
+// The largest distance of the sample's distribution from the expected one, times the root of its size: above 1.63
+// once in a hundred samples (Kolmogorov and Smirnov).
+template <class Distribution>
+double distance(std::vector<Zor32f> sample, Distribution distribution)
+{
+    std::sort(sample.begin(), sample.end());
+    const auto size = static_cast<double>(sample.size());
+    double most = 0;
+    for (std::size_t i = 0; i < sample.size(); ++i) {
+        const double f = distribution(static_cast<double>(sample[i]));
+        most = std::max({most, f - static_cast<double>(i) / size, static_cast<double>(i + 1) / size - f});
+    }
+    return most * std::sqrt(size);
+}
+
+// Mean, variance, skewness and kurtosis of numbers with a known mean and deviation.
+std::vector<double> moments(const std::vector<Zor32f>& sample, double mean, double deviation)
+{
+    std::vector<double> m(4);
+    for (const Zor32f v : sample)
+        for (int k = 0; k < 4; ++k) m[static_cast<std::size_t>(k)] += std::pow((v - mean) / deviation, k + 1);
+    for (double& v : m) v /= static_cast<double>(sample.size());
+    return m;
+}
+
+TEST(Random, Distributions)
+{
+    constexpr int size = 200000;
+    const double error = 1 / std::sqrt(static_cast<double>(size));
+    std::vector<Zor32f> v(size);
+    for (const Zor32u start : {1u, 20261121u, 0xdeadbeefu}) {
+        Zor32u seed = start;
+        ASSERT_EQ(zorsRandUniform_Direct_32f(v.data(), size, -2, 6, &seed), zorStsOk);
+        EXPECT_TRUE(std::all_of(v.begin(), v.end(), [](Zor32f x) { return x >= -2 && x <= 6; }));
+        EXPECT_LT(distance(v, [](double x) { return (x + 2) / 8; }), 1.63);
+        auto m = moments(v, 2, 8 / std::sqrt(12.0));
+        // Four standard errors of each moment: the roots of 1, 4 / 5, 27 / 7 and 144 / 25 times the error.
+        EXPECT_NEAR(m[0], 0, 4 * error);
+        EXPECT_NEAR(m[1], 1, 4 * error * 0.894);
+        EXPECT_NEAR(m[2], 0, 4 * error * 1.964);
+        EXPECT_NEAR(m[3], 1.8, 4 * error * 2.4);
+
+        seed = start;
+        ASSERT_EQ(zorsRandGauss_Direct_32f(v.data(), size, 3, 0.5f, &seed), zorStsOk);
+        EXPECT_LT(distance(v, [](double x) { return 0.5 * std::erfc((3 - x) / 0.5 / std::sqrt(2.0)); }),
+                  1.63);
+        m = moments(v, 3, 0.5);
+        EXPECT_NEAR(m[0], 0, 4 * error);
+        EXPECT_NEAR(m[1], 1, 4 * error * 1.414);
+        EXPECT_NEAR(m[2], 0, 4 * error * 3.873);
+        EXPECT_NEAR(m[3], 3, 4 * error * 9.798);
+    }
+}
+
+} // namespace
+} // namespace zors::test
