@@ -2,7 +2,6 @@
 #pragma once
 
 #include "simd/convert.h"
-#include "simd/double.h"
 
 #include <zortypes.h>
 
@@ -17,7 +16,7 @@ inline Vec<T, lanes<double>> toElements(Vec<double> v)
     if constexpr (std::is_same_v<T, double>) {
         return v;
     } else if constexpr (std::is_same_v<T, float>) {
-        return toFloat(v);
+        return toFloat<lanes<double>>(v);
     } else {
         // Adding this leaves the integer in the low bits.
         constexpr double toInteger = 0x1.8p52;

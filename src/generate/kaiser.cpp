@@ -11,7 +11,7 @@ namespace {
 
 // The integer forms keep the weight in double precision.
 template <class T>
-using WeightOf = std::conditional_t<std::is_same_v<typename PartsOf<T>::type, Zor32f>, Zor32f, Zor64f>;
+using WeightOf = std::conditional_t<std::is_same_v<Lane<T>, Zor32f>, Zor32f, Zor64f>;
 
 // The largest beta: beyond it the Bessel function would leave the range of the type.
 template <class T>
@@ -25,7 +25,7 @@ struct HalfAway {
         if constexpr (std::is_same_v<V, W>) {
             return v * w;
         } else {
-            W x = toDouble(v) * w;
+            W x = toDouble<lanes<double>>(v) * w;
             x = select(x > 32767.0, splat(32767.0), select(x < -32768.0, splat(-32768.0), x));
             const auto r = truncated(x + select(x >= 0.0, splat(0.5), splat(-0.5)));
             return narrowed<Zor16s, lanesOf<V>>(r);

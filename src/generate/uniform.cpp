@@ -39,7 +39,7 @@ void Uniform<T>::fill(T* pDst, int len)
         const int count = std::min(steps, len);
         generator.draw(words, count);
         blocks<lanes<double>>(count, [&](auto at) {
-            store(pDst, at, toElements<T>(mean + scale * toDouble(load(words, at))));
+            store(pDst, at, toElements<T>(mean + scale * toDouble<lanes<double>>(load(words, at))));
         });
     }
 }

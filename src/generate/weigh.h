@@ -4,29 +4,14 @@
 // many from the back. So a shape knows nothing of element types, and the product nothing of shapes.
 #pragma once
 
-#include "simd/double.h"
+#include "simd/convert.h"
 #include "simd/loop.h"
 #include "simd/shuffle.h"
-
-#include <zortypes.h>
+#include "vector/lane.h"
 
 #include <algorithm>
 
 namespace zors::ZORS_VARIANT {
-
-// Elements as their parts: a complex one has two.
-template <class T>
-struct PartsOf : std::type_identity<T> {
-    static constexpr int each = 1;
-};
-template <class C>
-requires requires
-{
-    &C::re;
-}
-struct PartsOf<C> : std::type_identity<decltype(C::re)> {
-    static constexpr int each = 2;
-};
 
 // The stretch of weights that is formed at a time.
 inline constexpr int stretch = 128;
@@ -44,7 +29,8 @@ inline Vec<W> weightsAt(const Weights& weights, int n)
     if constexpr (std::is_same_v<W, double>)
         return weights(n);
     else
-        return joined(toFloat(weights(n)), toFloat(weights(n + lanes<double>)));
+        return concatenated(toFloat<lanes<double>>(weights(n)),
+                            toFloat<lanes<double>>(weights(n + lanes<double>)));
 }
 
 // Calls body(place, weights) for the parts of the elements at a place.
@@ -77,12 +63,11 @@ inline void partsAt(Part<N> at, V w, Body body)
 template <class T, class W, class Product>
 void weigh(const T* pSrc, const W* pWeights, T* pDst, std::ptrdiff_t len, Product product)
 {
-    using P = typename PartsOf<T>::type;
-    const auto* from = reinterpret_cast<const P*>(pSrc);
-    auto* to = reinterpret_cast<P*>(pDst);
+    const auto* from = asLanes(pSrc);
+    auto* to = asLanes(pDst);
     blocks<lanes<W>>(len, [=](auto at) {
         const auto body = [=](auto place, Vec<W> w) { store(to, place, product(load(from, place), w)); };
-        partsAt<PartsOf<T>::each>(at, load(pWeights, at), body);
+        partsAt<LaneOf<T>::each>(at, load(pWeights, at), body);
     });
 }
 

@@ -3,13 +3,13 @@
 
 #include "weigh.h"
 
-#include "simd/convert.h"
+#include "simd/round.h"
 
 namespace zors::ZORS_VARIANT {
 
 // The parameter of a shape, and its weights, are doubles where the elements are.
 template <class T>
-using ParameterOf = std::conditional_t<std::is_same_v<typename PartsOf<T>::type, Zor64f>, Zor64f, Zor32f>;
+using ParameterOf = std::conditional_t<std::is_same_v<Lane<T>, Zor64f>, Zor64f, Zor32f>;
 
 inline double fromQ15(int value)
 {

@@ -85,11 +85,13 @@ ZorStatus blackmanScaled(Zor16s* pSrcDst, int len, int alphaQ15, int scaleFactor
 {
     if (const ZorStatus bad = check(pointers(pSrcDst), length(len, 3))) return bad;
     const Blackman<Zor32f> shape(len, static_cast<Zor32f>(fromQ15(alphaQ15)));
-    const auto product = [scale = Scale(scaleFactor)]<class V, class W>(V v, W w) {
-        constexpr int n = lanesOf<V>;
-        return rounded<Zor16s, Rounding::nearestEven, n>(scale(toFloat<n>(v) * w));
-    };
-    weighBySymmetric(shape, pSrcDst, pSrcDst, len, product);
+    withScale<Zor32f>(scaleFactor, [&](auto scale) {
+        const auto product = [scale]<class V, class W>(V v, W w) {
+            constexpr int n = lanesOf<V>;
+            return rounded<Zor16s, Rounding::nearestEven, n>(scale(toFloat<n>(v) * w));
+        };
+        weighBySymmetric(shape, pSrcDst, pSrcDst, len, product);
+    });
     return zorStsOk;
 }
 

@@ -128,6 +128,18 @@ inline Vec<double, N> toDouble(V v)
 #endif
 }
 
+// Toward zero; INT32_MIN outside the range.
+inline Vec<std::int32_t, lanes<double>> truncated(Vec<double> v)
+{
+#if ZORS_VECTOR_BYTES == 64
+    return (Vec<std::int32_t, 8>)_mm512_cvttpd_epi32((__m512d)v);
+#elif ZORS_VECTOR_BYTES == 32
+    return (Vec<std::int32_t, 4>)_mm256_cvttpd_epi32((__m256d)v);
+#else
+    return fromRegister<Vec<std::int32_t, 2>>(_mm_cvttpd_epi32((__m128d)v));
+#endif
+}
+
 // The low bits of every lane.
 template <class T, int N>
 inline Vec<T, N> narrowed(Vec<std::int32_t, N> v)

@@ -113,4 +113,15 @@ inline Pair<V> deinterleave(V a, V b)
     return {permute<Even>(a, b), permute<Odd>(a, b)};
 }
 
+// The lanes of a, then those of b.
+template <class V>
+inline Vec<ElementOf<V>, 2 * lanesOf<V>> concatenated(V a, V b)
+{
+    return [=]<int... I>(std::integer_sequence<int, I...>)
+    {
+        return __builtin_shufflevector(a, b, I...);
+    }
+    (std::make_integer_sequence<int, 2 * lanesOf<V>>{});
+}
+
 } // namespace zors::ZORS_VARIANT
