@@ -1,6 +1,7 @@
 #include "report.h"
 
 #include "statistics.h"
+#include "transcoding.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -37,6 +38,13 @@ void printChannel(const Channel& channel, int rate)
     }
 }
 
+void printTranscoding(const Channel& channel)
+{
+    const Transcoding transcoding = transcodingOf(channel);
+    std::printf("signal to noise after transcoding: mu-law %.2f dB, A-law %.2f dB\n", transcoding.muLaw,
+                transcoding.aLaw);
+}
+
 } // namespace
 
 void printReport(const std::string& name, const Recording& recording)
@@ -49,6 +57,7 @@ void printReport(const std::string& name, const Recording& recording)
         else
             std::printf("\nchannel %zu\n", i + 1);
         printChannel(recording.channels[i], recording.rate);
+        printTranscoding(recording.channels[i]);
     }
 }
 

@@ -7,7 +7,7 @@
 
 namespace ecg {
 
-// Prints duration and statistics, in all and for each ten seconds, to the standard output.
+// Prints duration, statistics, in all and for each ten seconds, and losses by transcoding to the standard output.
 void printReport(const std::string& name, const Recording& recording);
 
 } // namespace ecg

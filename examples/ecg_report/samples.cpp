@@ -13,6 +13,8 @@ Channel channelOf(const Vector<Zor16s>& samples)
     return channel;
 }
 
+} // namespace
+
 Vector<Zor16s> samplesOf(const Channel& channel)
 {
     Channel units(channel.len());
@@ -23,8 +25,6 @@ Vector<Zor16s> samplesOf(const Channel& channel)
             "convert to samples");
     return samples;
 }
-
-} // namespace
 
 // A stereo frame has the layout of a complex number.
 std::vector<Channel> toMillivolts(const Vector<Zor16s>& frames, int channels)

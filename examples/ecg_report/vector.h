@@ -14,6 +14,8 @@ namespace ecg {
 template <class T>
 inline constexpr T* (*allocate)(int len) = nullptr;
 template <>
+inline constexpr auto allocate<Zor8u> = zorsMalloc_8u;
+template <>
 inline constexpr auto allocate<Zor16s> = zorsMalloc_16s;
 template <>
 inline constexpr auto allocate<Zor32f> = zorsMalloc_32f;

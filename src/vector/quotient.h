@@ -38,7 +38,7 @@ R scaledMean(Zor64s sum, int len, int scaleFactor)
     // Beyond these shifts every result is saturated or 0: the quotient is 0 or between 2^-31 and 2^31.
     const int shift = std::clamp(scaleFactor, -62, 33);
     const Int128 dividend = sum * (Int128{1} << std::max(-shift, 0)),
-               divisor = len * (Int128{1} << std::max(shift, 0));
+                 divisor = len * (Int128{1} << std::max(shift, 0));
     const Int128 quotient = dividend / divisor, rest = dividend - quotient * divisor;
     const Int128 twice = 2 * (rest < 0 ? -rest : rest);
     const bool away = twice > divisor || (twice == divisor && quotient % 2 != 0);

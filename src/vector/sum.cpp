@@ -144,8 +144,7 @@ template <class T, class... Hint>
 ZorStatus sum(const T* pSrc, int len, T* pSum, Hint... hint)
 {
     if (const ZorStatus bad = check(pointers(pSrc, pSum), length(len))) return bad;
-    *pSum =
-        closed<T>(totalsOf(pSrc, len, hint...), [](Zor64f total) { return static_cast<Lane<T>>(total); });
+    *pSum = closed<T>(totalsOf(pSrc, len, hint...), [](Zor64f total) { return static_cast<Lane<T>>(total); });
     return zorStsOk;
 }
 

@@ -1,5 +1,6 @@
 """Runs the report on real, made and bad recordings.   usage: ecg_report_test.py PROGRAM RECORDING"""
 import array
+import bisect
 import math
 import pathlib
 import random
@@ -10,7 +11,12 @@ import subprocess
 import sys
 import tempfile
 import unittest
+import warnings
 import wave
+
+with warnings.catch_warnings():
+    warnings.simplefilter("ignore", DeprecationWarning)
+    import audioop
 
 PROGRAM, RECORDING = sys.argv[1], pathlib.Path(sys.argv[2])
 UNITS_PER_MILLIVOLT = 200
@@ -39,6 +45,16 @@ def rows(report):
     """The figures of each line of the table; None stands for a deviation that is not defined."""
     found = re.findall(r"^(?:whole|[\d.]+ - [\d.]+ s) +(.*)$", report, re.MULTILINE)
     return [[None if f == "-" else float(f) for f in line.split()] for line in found]
+
+
+def signal_to_noise(samples, decode):
+    """In dB if each sample becomes the nearest one that has a code, by Python's decoding tables."""
+    levels = sorted(array.array("h", decode(bytes(range(256)), 2)))
+    noise = 0
+    for s in samples:
+        i = bisect.bisect(levels, s, 1, len(levels) - 1)
+        noise += min(s - levels[i - 1], levels[i] - s, key=abs) ** 2
+    return 10 * math.log10(sum(s * s for s in samples) / noise)
 
 
 def expected_rows(samples, rate):
@@ -93,7 +109,12 @@ class EcgReport(unittest.TestCase):
     def test_recording(self):
         rate, channels = read_wav(RECORDING)
         self.assertEqual((rate, len(channels[0])), (360, 108_000))
-        self.check_success(self.run_report(), "ecg_360hz", rate, channels)
+        result = self.run_report()
+        self.check_success(result, "ecg_360hz", rate, channels)
+        found = re.search(r"mu-law (.*) dB, A-law (.*) dB", result.stdout)
+        # Where the step doubles a decision value is not quite half-way between two levels.
+        self.assertAlmostEqual(float(found[1]), signal_to_noise(channels[0], audioop.ulaw2lin), delta=0.1)
+        self.assertAlmostEqual(float(found[2]), signal_to_noise(channels[0], audioop.alaw2lin), delta=0.1)
 
     def test_stereo_with_a_last_segment_of_one_sample(self):
         noise = random.Random(1)

@@ -118,7 +118,8 @@ TEST(FloatingDeviation, FollowsItsFormulaExactly)
         Zor32f mean = 0, deviation = 0;
         ASSERT_EQ(zorsMeanStdDev_32f(v.data() + 1, len, &mean, &deviation), zorStsOk);
         EXPECT_EQ(mean, static_cast<Zor32f>(static_cast<Zor32f>(sum) / n)) << len;
-        EXPECT_EQ(deviation, static_cast<Zor32f>(std::sqrt((n * squares - sum * sum) / ((n - 1) * n)))) << len;
+        EXPECT_EQ(deviation, static_cast<Zor32f>(std::sqrt((n * squares - sum * sum) / ((n - 1) * n))))
+            << len;
     }
 }
 
