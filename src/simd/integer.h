@@ -25,6 +25,28 @@ inline V maskAs(M mask)
     return (V)mask;
 }
 
+// v and 1 more, or 1 less, in the lanes of a mask. The widest vectors have masks that are no vectors; the others'
+// lanes are -1.
+template <class V, class M>
+inline V raisedWhere(M mask, V v)
+{
+#if ZORS_VECTOR_BYTES == 64
+    return mask ? v + 1 : v;
+#else
+    return v - maskAs<V>(mask);
+#endif
+}
+
+template <class V, class M>
+inline V loweredWhere(M mask, V v)
+{
+#if ZORS_VECTOR_BYTES == 64
+    return mask ? v - 1 : v;
+#else
+    return v + maskAs<V>(mask);
+#endif
+}
+
 template <class V>
 inline HalfSum<V> halfSum(V a, V b)
 {
@@ -148,7 +170,7 @@ public:
     V operator()(V x) const
     {
         const V q = shiftedRight(x, count_);
-        return q - maskAs<V>((x & mask_) > (middle_ - (q & 1)));
+        return raisedWhere((x & mask_) > (middle_ - (q & 1)), q);
     }
 
     // x with a bit below its lowest.
@@ -156,7 +178,7 @@ public:
     V operator()(V x, V low) const
     {
         const V q = shiftedRight(x, count_);
-        return q - maskAs<V>((x & mask_) > (middle_ - (low | (q & 1))));
+        return raisedWhere((x & mask_) > (middle_ - (low | (q & 1))), q);
     }
 
 private:

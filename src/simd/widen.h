@@ -202,7 +202,7 @@ inline Vec<std::int16_t> fractionalProducts(Vec<std::int16_t> a, Vec<std::int16_
     const auto r = (Vec<std::uint16_t>)ZORS_NATIVE(mulhrs_epi16)((ZORS_INTEGERS)a, (ZORS_INTEGERS)b);
     const auto low = wrapping(a) * wrapping(b);
     const auto tooFar = (low == 0x4000) | (r == 0x8000);
-    return bitsAs<std::int16_t>(r + maskAs<Vec<std::uint16_t>>(tooFar));
+    return bitsAs<std::int16_t>(loweredWhere(tooFar, r));
 #else
     const RoundingShift<std::int32_t> shift(15);
     const auto p = products(a, b);
