@@ -2,6 +2,7 @@
 #pragma once
 
 #include "support/compare.h"
+#include "support/vectors.h"
 
 #include <tuple>
 #include <utility>
@@ -12,6 +13,7 @@ template <class F, class... Makers>
 Contender contender(const char* name, F f, Makers... makers)
 {
     return {name, [=](int length) -> Operation {
+                nextOffset = 0;
                 return [f, length, arguments = std::make_tuple(makers(length)...)] {
                     std::apply([&](const auto&... a) { f(a.get()..., length); }, arguments);
                 };

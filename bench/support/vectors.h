@@ -1,4 +1,5 @@
-// Arguments of the benchmarks: vectors aligned as zorsMalloc aligns them, and scalars.
+// Arguments of the benchmarks: vectors, and scalars. Where vectors begin in a page decides which loads wait for which
+// stores: the first one of every contender begins a page, and each one after it a little further on in its own.
 #pragma once
 
 #include <cstring>
@@ -7,14 +8,18 @@
 
 namespace zors::bench {
 
+// How far into its page the next vector begins.
+inline std::size_t nextOffset = 0;
+
 template <class T>
 std::shared_ptr<T[]> vector(int length)
 {
-    constexpr std::align_val_t line{64};
-    const std::size_t bytes = static_cast<std::size_t>(length) * sizeof(T);
-    auto* memory = static_cast<T*>(operator new(bytes, line));
-    std::memset(static_cast<void*>(memory), 1, bytes); // every page is there before the clock starts
-    return {memory, [](T* p) { operator delete(p, line); }};
+    constexpr std::align_val_t page{4096};
+    const std::size_t bytes = static_cast<std::size_t>(length) * sizeof(T), offset = nextOffset;
+    auto* memory = static_cast<char*>(operator new(offset + bytes, page));
+    std::memset(memory, 1, offset + bytes); // every page is there before the clock starts
+    nextOffset = (offset + 17 * 64) % 4096;
+    return {reinterpret_cast<T*>(memory + offset), [memory](T*) { operator delete(memory, page); }};
 }
 
 // Small numbers, whose sums and products are neither rounded away nor out of range.

@@ -1,6 +1,5 @@
 // Arithmetic beside plain loops, Eigen and VOLK.
 #include "support/calls.h"
-#include "support/vectors.h"
 #include "vector/plain_arithmetic.h"
 
 #include <volk/volk.h>

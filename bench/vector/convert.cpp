@@ -1,6 +1,5 @@
 // Conversion and companding beside plain loops, VOLK and Eigen.
 #include "support/calls.h"
-#include "support/vectors.h"
 #include "vector/plain_convert.h"
 
 #include <cmath>

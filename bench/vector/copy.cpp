@@ -1,6 +1,5 @@
 // Filling, copying and rearranging beside memcpy, memset and plain loops.
 #include "support/calls.h"
-#include "support/vectors.h"
 #include "vector/plain_copy.h"
 
 #include <cstring>
