@@ -8,6 +8,21 @@
 
 namespace zors::ZORS_VARIANT {
 
+// A value that the compiler does not look through: it would divide first and choose the quotient afterwards.
+template <class V>
+inline V opaque(V v)
+{
+    if constexpr (sizeof v <= 8) {
+        std::uint64_t bits = 0;
+        __builtin_memcpy(&bits, &v, sizeof v);
+        __asm__("" : "+r"(bits));
+        __builtin_memcpy(&v, &bits, sizeof v);
+    } else {
+        __asm__("" : "+x"(v));
+    }
+    return v;
+}
+
 // The lanes of v that a place covers; where it covers no more, the other value.
 template <class T, int N>
 inline Vec<T, N> covered(Vec<T, N> v, Whole<N>, T)
@@ -18,7 +33,7 @@ inline Vec<T, N> covered(Vec<T, N> v, Whole<N>, T)
 template <class T, int N>
 inline Vec<T, N> covered(Vec<T, N> v, Part<N> at, T other)
 {
-    return select(iota<T, N>() < static_cast<T>(at.count), v, splat<T, N>(other));
+    return opaque(select(iota<T, N>() < static_cast<T>(at.count), v, splat<T, N>(other)));
 }
 
 // Small integers as floating-point lanes, exactly.
