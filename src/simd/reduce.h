@@ -30,33 +30,42 @@ struct Lanes {
     template <int Results = 1, class Join>
     std::array<T, Results> joined(Join join) const
     {
-        constexpr int n = lanes<T>;
         Vec<T> v[count];
         __builtin_memcpy(v, part, sizeof v);
         for (int half = count / 2; half > 0; half /= 2)
             for (int j = 0; j < half; ++j) v[j] = join(v[j], v[j + half]);
-        joinHalves<n / 2, Results>(v[0], join);
-        std::array<T, Results> result;
-        __builtin_memcpy(result.data(), v, sizeof result);
-        return result;
+        return joinedHalves<Results>(v[0], join);
     }
 
     template <int Results = 1>
     std::array<T, Results> sum() const
     {
-        return joined<Results>([](Vec<T> a, Vec<T> b) { return a + b; });
+        return joined<Results>([](auto a, auto b) { return a + b; });
     }
 
 private:
-    template <int Half, int Results, class Join>
-    static void joinHalves(Vec<T>& v, Join join)
+    // The lanes of v from the one numbered first on, N of them.
+    template <int First, int N, class V>
+    static Vec<T, N> partOf(V v)
     {
-        if constexpr (Half >= Results) {
-            struct Upper {
-                constexpr int operator()(int i) const { return (i + Half) % lanes<T>; }
-            };
-            v = join(v, permute<Upper>(v));
-            joinHalves<Half / 2, Results>(v, join);
+        return [v]<int... I>(std::integer_sequence<int, I...>)
+        {
+            return __builtin_shufflevector(v, v, ((First + I) % lanesOf<V>)...);
+        }
+        (std::make_integer_sequence<int, N>{});
+    }
+
+    // Down to 16 bytes the halves are vectors of their own; in there the lower half is as good as a vector.
+    template <int Results, int Left = lanes<T>, class V, class Join>
+    static std::array<T, Results> joinedHalves(V v, Join join)
+    {
+        constexpr int half = Left / 2, kept = sizeof(V) > 16 ? half : lanesOf<V>;
+        if constexpr (half >= Results) {
+            return joinedHalves<Results, half>(join(partOf<0, kept>(v), partOf<half, kept>(v)), join);
+        } else {
+            std::array<T, Results> result;
+            __builtin_memcpy(result.data(), &v, sizeof result);
+            return result;
         }
     }
 };

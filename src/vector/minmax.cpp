@@ -15,8 +15,8 @@ struct Extremes {
     static constexpr Zor32f filler = std::numeric_limits<Zor32f>::quiet_NaN();
     Lanes<Zor32f, lanes> least{infinity}, most{-infinity};
 
-    static Vec<Zor32f> lower(Vec<Zor32f> a, Vec<Zor32f> b) { return select(b < a, b, a); }
-    static Vec<Zor32f> higher(Vec<Zor32f> a, Vec<Zor32f> b) { return select(b > a, b, a); }
+    static constexpr auto lower = [](auto a, auto b) { return select(b < a, b, a); };
+    static constexpr auto higher = [](auto a, auto b) { return select(b > a, b, a); };
 
     void add(int j, Vec<Zor32f> v)
     {
