@@ -1,5 +1,6 @@
 // Every window against its formula in extended precision: floats within the stated bounds, integers exactly.
 #include "generate/window_oracle.h"
+#include "support/count.h"
 
 #include <gtest/gtest.h>
 #include <limits>
@@ -112,6 +113,7 @@ void expectWindow(ZorStatus (*window)(const T*, T*, int, Parameters...), Shape s
         const auto source = elements<T>(len);
         auto got = source;
         ASSERT_EQ(window(source.data(), got.data(), len, parameters...), zorStsOk);
+        zors::test::compared(len);
         for (int n = OwnEnds; n < len - OwnEnds; ++n) {
             SCOPED_TRACE("element " + std::to_string(n) + " of " + std::to_string(len));
             const auto i = static_cast<std::size_t>(n);

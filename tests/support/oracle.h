@@ -1,6 +1,7 @@
 // A function beside the plain form of what it promises.
 #pragma once
 
+#include "support/count.h"
 #include "support/random.h"
 
 #include <gtest/gtest.h>
@@ -30,6 +31,7 @@ void expectSame(Function function, Oracle oracle, Each each = {}, Lengths length
         RandomVector<D> got(std::ptrdiff_t{len} * each.destination, dstOffset, random), want = got;
         ASSERT_EQ(function(src.data(), got.data(), len), zorStsOk);
         oracle(src.data(), want.data(), len);
+        compared(std::ptrdiff_t{len} * each.destination);
         ASSERT_TRUE(got == want) << "byte " << got.firstDifference(want) << " of the destination, length "
                                  << len << ", offsets " << srcOffset << " and " << dstOffset << ", "
                                  << __PRETTY_FUNCTION__;

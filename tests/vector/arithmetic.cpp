@@ -80,6 +80,7 @@ void expect(Call call, Operation operation)
         RandomVector<T> got(len, len % 3, random);
         const RandomVector<T> old = got;
         ASSERT_EQ(call(a.data(), b.data(), got.data(), len), zorStsOk);
+        compared(len);
         for (int i = 0; i < len; ++i) {
             expectElement(got.data()[i], operation(a.data()[i], b.data()[i], old.data()[i]), i, len);
             if (testing::Test::HasFatalFailure()) return;
@@ -169,6 +170,7 @@ void expectMixed(Call call, Operation operation)
         RandomVector<D> got(len, len % 5, random), want = got;
         for (int i = 0; i < len; ++i) want.data()[i] = operation(a.data()[i], b.data()[i], want.data()[i]);
         ASSERT_EQ(call(a.data(), b.data(), got.data(), len), zorStsOk);
+        compared(len);
         ASSERT_TRUE(got == want) << "byte " << got.firstDifference(want) << " of length " << len;
     }
 }

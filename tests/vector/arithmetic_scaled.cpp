@@ -101,27 +101,38 @@ void seed(T* p, int len, Random& random)
     }
 }
 
+// All factors at some lengths, and all lengths at some factor.
+template <class Body>
+void eachCase(Body body)
+{
+    for (const int factor : factors)
+        for (const int len : {1, 5, 63, 1003})
+            if (!testing::Test::HasFatalFailure()) body(factor, len);
+    for (int len = 1; len <= 257; ++len)
+        if (!testing::Test::HasFatalFailure()) body(factors[len % std::ssize(factors)], len);
+}
+
 // Both forms of a function of two sources, and of a function of a source and a constant, at all factors.
 template <class Operation, class T>
 void expectTwo(ZorStatus (*outOfPlace)(const T*, const T*, T*, int, int),
                ZorStatus (*inPlace)(const T*, T*, int, int), int zeroAbove = INT_MAX)
 {
     Random random;
-    for (const int factor : factors)
-        for (const int len : {1, 5, 63, 257, 1003}) {
-            RandomVector<T> a(len, len % 5, random), b(len, 1, random), got(len, len % 3, random);
-            seed(a.data(), len, random);
-            seed(b.data(), len, random);
-            RandomVector<T> want = got, both = b;
-            for (int i = 0; i < len; ++i)
-                want.data()[i] = expected<Operation>(a.data()[i], b.data()[i], factor, zeroAbove);
-            ASSERT_EQ(outOfPlace(a.data(), b.data(), got.data(), len, factor), zorStsOk);
-            ASSERT_TRUE(got == want) << "factor " << factor << ", length " << len << ", byte "
-                                     << got.firstDifference(want);
-            if (!inPlace) continue;
-            ASSERT_EQ(inPlace(a.data(), both.data(), len, factor), zorStsOk);
-            ASSERT_EQ(std::memcmp(both.data(), want.data(), static_cast<std::size_t>(len) * sizeof(T)), 0);
-        }
+    eachCase([&](int factor, int len) {
+        RandomVector<T> a(len, len % 5, random), b(len, 1, random), got(len, len % 3, random);
+        seed(a.data(), len, random);
+        seed(b.data(), len, random);
+        RandomVector<T> want = got, both = b;
+        for (int i = 0; i < len; ++i)
+            want.data()[i] = expected<Operation>(a.data()[i], b.data()[i], factor, zeroAbove);
+        ASSERT_EQ(outOfPlace(a.data(), b.data(), got.data(), len, factor), zorStsOk);
+        compared(len);
+        ASSERT_TRUE(got == want) << "factor " << factor << ", length " << len << ", byte "
+                                 << got.firstDifference(want);
+        if (!inPlace) return;
+        ASSERT_EQ(inPlace(a.data(), both.data(), len, factor), zorStsOk);
+        ASSERT_EQ(std::memcmp(both.data(), want.data(), static_cast<std::size_t>(len) * sizeof(T)), 0);
+    });
 }
 
 enum class Constant { first, second };
@@ -130,20 +141,20 @@ template <class Operation, class T>
 void expectConstant(ZorStatus (*outOfPlace)(const T*, T, T*, int, int), Constant place)
 {
     Random random;
-    for (const int factor : factors)
-        for (int round = 0; round < 4; ++round) {
-            constexpr int len = 261;
-            RandomVector<T> a(len, 1, random), got(len, 2, random), constant(1, 0, random);
-            seed(a.data(), len, random);
-            seed(constant.data(), round == 0 ? 0 : 1, random);
-            const T c = *constant.data();
-            RandomVector<T> want = got;
-            for (int i = 0; i < len; ++i)
-                want.data()[i] = place == Constant::first ? expected<Operation>(c, a.data()[i], factor)
-                                                          : expected<Operation>(a.data()[i], c, factor);
-            ASSERT_EQ(outOfPlace(a.data(), c, got.data(), len, factor), zorStsOk);
-            ASSERT_TRUE(got == want) << "factor " << factor << ", byte " << got.firstDifference(want);
-        }
+    int round = 0;
+    eachCase([&](int factor, int len) {
+        RandomVector<T> a(len, 1, random), got(len, 2, random), constant(1, 0, random);
+        seed(a.data(), len, random);
+        seed(constant.data(), ++round % 4 == 0 ? 0 : 1, random);
+        const T c = *constant.data();
+        RandomVector<T> want = got;
+        for (int i = 0; i < len; ++i)
+            want.data()[i] = place == Constant::first ? expected<Operation>(c, a.data()[i], factor)
+                                                      : expected<Operation>(a.data()[i], c, factor);
+        ASSERT_EQ(outOfPlace(a.data(), c, got.data(), len, factor), zorStsOk);
+        compared(len);
+        ASSERT_TRUE(got == want) << "factor " << factor << ", byte " << got.firstDifference(want);
+    });
 }
 
 #define TWO(operation, name, type) expectTwo<operation>(zors##name##_##type##_Sfs, zors##name##_##type##_ISfs)
@@ -221,6 +232,7 @@ TEST(Scaled, AllPairsOf8Bits)
             for (int c = 0; c < 256; ++c) {
                 std::fill(b, b + 256, static_cast<Zor8u>(c));
                 function(a, b, got, 256, factor);
+                compared(256);
                 for (int i = 0; i < 256; ++i)
                     ASSERT_EQ(got[i], (expected<Operation, Zor8u>(a[i], b[i], factor)))
                         << i << ", " << c << ", factor " << factor;
@@ -236,20 +248,20 @@ template <class A, class B, class T, class Function, class Oracle>
 void expectMixed(Function function, Oracle oracle)
 {
     Random random;
-    for (const int factor : factors)
-        for (const int len : {1, 7, 257}) {
-            RandomVector<A> a(len, 1, random);
-            RandomVector<B> b(len, 2, random);
-            RandomVector<T> got(len, 3, random);
-            seed(a.data(), len, random);
-            seed(b.data(), len, random);
-            seed(got.data(), len, random);
-            RandomVector<T> want = got;
-            for (int i = 0; i < len; ++i)
-                want.data()[i] = oracle(a.data()[i], b.data()[i], got.data()[i], factor);
-            ASSERT_EQ(function(a.data(), b.data(), got.data(), len, factor), zorStsOk);
-            ASSERT_TRUE(got == want) << "factor " << factor << ", byte " << got.firstDifference(want);
-        }
+    eachCase([&](int factor, int len) {
+        RandomVector<A> a(len, 1, random);
+        RandomVector<B> b(len, 2, random);
+        RandomVector<T> got(len, 3, random);
+        seed(a.data(), len, random);
+        seed(b.data(), len, random);
+        seed(got.data(), len, random);
+        RandomVector<T> want = got;
+        for (int i = 0; i < len; ++i)
+            want.data()[i] = oracle(a.data()[i], b.data()[i], got.data()[i], factor);
+        ASSERT_EQ(function(a.data(), b.data(), got.data(), len, factor), zorStsOk);
+        compared(len);
+        ASSERT_TRUE(got == want) << "factor " << factor << ", byte " << got.firstDifference(want);
+    });
 }
 
 TEST(Scaled, MixedTypes)

@@ -1,3 +1,4 @@
+#include "support/count.h"
 #include "support/random.h"
 
 #include <gtest/gtest.h>
@@ -29,6 +30,7 @@ void expectCopied(CopyBits function, bool mostFirst)
         RandomVector<Zor8u> got(len / 8 + 2, len % 5, random), want = got;
         ASSERT_EQ(function(src.data(), srcOffset, got.data(), dstOffset, len), zorStsOk);
         copyBits(mostFirst, src.data(), srcOffset, want.data(), dstOffset, len);
+        compared(len);
         ASSERT_TRUE(got == want) << len << " bits from " << srcOffset << " to " << dstOffset << ", byte "
                                  << got.firstDifference(want);
     };

@@ -104,6 +104,7 @@ void expectEncodes(const Law& law, Encoder<T> function, const std::vector<T>& sr
                    [&](T v) { return encoded(law, static_cast<double>(v)); });
     for (const unsigned control : controls) {
         underControl(control, [&] { function(src.data(), got.data(), static_cast<int>(src.size())); });
+        compared(static_cast<int>(src.size()));
         for (std::size_t n = 0; n < src.size(); ++n)
             ASSERT_EQ(got[n], want[n]) << src[n] << ", control " << std::hex << control;
     }

@@ -115,6 +115,7 @@ void expectScales(ZorStatus (*function)(const S*, D*, int, int), const std::vect
             ZorStatus status = zorStsOk;
             underControl(control, [&] { status = function(src.data(), got.data(), len, scaleFactor); });
             ASSERT_EQ(status, zorStsOk);
+            compared(len);
             ASSERT_EQ(std::memcmp(got.data(), want.data(), got.size() * sizeof got[0]), 0)
                 << "scale factor " << scaleFactor << ", control " << std::hex << control;
         }

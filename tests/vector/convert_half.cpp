@@ -98,6 +98,7 @@ void expectAll(const std::vector<S>& src, Function function, Oracle oracle,
         underControl(control,
                      [&] { status = function(src.data(), got.data(), static_cast<int>(src.size())); });
         ASSERT_EQ(status, zorStsOk);
+        compared(static_cast<int>(src.size()));
         for (std::size_t n = 0; n < src.size(); ++n) {
             const D want = oracle(src[n]);
             ASSERT_EQ(std::memcmp(&got[n], &want, sizeof want), 0)

@@ -74,6 +74,7 @@ void expectNarrows(Narrowing<S, D> function, Range range)
     for (const int scaleFactor : factors) {
         ASSERT_EQ(function(src.data(), got.data(), len, scaleFactor), zorStsOk);
         oracle(scaleFactor)(src.data(), want.data(), len);
+        compared(len);
         const auto at = std::mismatch(got.begin(), got.end(), want.begin()).first - got.begin();
         ASSERT_EQ(at, static_cast<std::ptrdiff_t>(got.size()))
             << src[static_cast<std::size_t>(at / parts)] << ", scale factor " << scaleFactor;

@@ -80,6 +80,7 @@ void expectRounds(Conversion<S, D> function, Range range)
                     underControl(control,
                                  [&] { status = function(all.data(), got.data(), len, mode, scaleFactor); });
                     ASSERT_EQ(status, zorStsOk);
+                    compared(len);
                     const auto at = std::mismatch(got.begin(), got.end(), want.begin()).first - got.begin();
                     ASSERT_EQ(at, static_cast<std::ptrdiff_t>(got.size()))
                         << all[static_cast<std::size_t>(at / parts)] << ", mode " << mode << ", scale factor "

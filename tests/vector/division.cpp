@@ -1,3 +1,5 @@
+#include "support/count.h"
+
 #include <zors.h>
 
 #include <algorithm>
@@ -151,6 +153,7 @@ void expectQuotients(const Operands<T>& operands, Function function, Oracle orac
     std::vector<T> got(x.size());
     const bool byZero = std::any_of(y.begin(), y.end(), [](T v) { return isZero(v); });
     ASSERT_EQ(function(y.data(), x.data(), got.data(), operands.size()), byZero ? zorStsDivByZero : zorStsOk);
+    zors::test::compared(operands.size());
     for (std::size_t i = 0; i < x.size(); ++i) {
         const T want = oracle(x[i], y[i]);
         ASSERT_EQ(std::memcmp(&got[i], &want, sizeof want), 0)
@@ -216,6 +219,7 @@ void expectEveryLength(const Operands<T>& operands, Function function)
             for (std::size_t i = at; i < at + static_cast<std::size_t>(len); ++i)
                 want[i] = exactQuotient(x[i], y[i], -7);
             ASSERT_EQ(function(&y[at], &x[at], &got[at], len, -7), zorStsOk) << len;
+            zors::test::compared(len);
             ASSERT_EQ(std::memcmp(got.data(), want.data(), got.size() * sizeof(T)), 0) << len;
             y[at + static_cast<std::size_t>(len) - 1] = T{};
             ASSERT_EQ(function(&y[at], &x[at], &got[at], len, -7), zorStsDivByZero) << len;
@@ -273,6 +277,7 @@ void expectByConstant(const Operands<T>& operands, Function function, InPlace in
             ASSERT_EQ(function(x.data(), y, got.data(), operands.size(), s), zorStsOk);
             again = x;
             ASSERT_EQ(inPlace(y, again.data(), operands.size(), s), zorStsOk);
+            zors::test::compared(2 * operands.size());
             for (std::size_t j = 0; j < x.size(); ++j) {
                 const T want = exactQuotient(x[j], y, s);
                 ASSERT_EQ(std::memcmp(&got[j], &want, sizeof want), 0);

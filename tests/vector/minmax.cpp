@@ -1,3 +1,5 @@
+#include "support/count.h"
+
 #include <gtest/gtest.h>
 #include <zors.h>
 
@@ -14,6 +16,7 @@ void expectMinMax(const Zor32f* pSrc, int len)
     Zor32f least = infinity, most = -infinity, gotLeast = 0, gotMost = 0;
     for (int n = 0; n < len; ++n) least = std::fmin(least, pSrc[n]), most = std::fmax(most, pSrc[n]);
     ASSERT_EQ(zorsMinMax_32f(pSrc, len, &gotLeast, &gotMost), zorStsOk);
+    zors::test::compared(len);
     ASSERT_EQ(gotLeast, least) << len;
     ASSERT_EQ(gotMost, most) << len;
 }

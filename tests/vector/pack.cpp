@@ -34,6 +34,7 @@ TEST(PackBits, MostSignificantBitFirst)
         want.insert(want.end(), 4, 0xa5); // not a byte more is written
         ASSERT_EQ(zorsPackBits_32u8u(words.data(), bits.data(), got.data(), static_cast<int>(words.size())),
                   zorStsOk);
+        compared(static_cast<int>(words.size()));
         ASSERT_EQ(got, want);
     }
 }

@@ -1,6 +1,8 @@
 // What the tests of reductions share: their vectors, and the rule of scaled integer results in plain arithmetic.
 #pragma once
 
+#include "support/count.h"
+
 #include <gtest/gtest.h>
 #include <zors.h>
 
@@ -29,8 +31,12 @@ std::vector<T> integers(std::size_t count)
 
 // Every length up to 257 at odd places, the limits of the blocks, and one long vector.
 template <class Body>
-void eachLength(Body body)
+void eachLength(Body test)
 {
+    const auto body = [&](std::size_t place, int len) {
+        test(place, len);
+        compared(len);
+    };
     for (int len = 1; len <= 257; ++len) body(static_cast<std::size_t>(len % 7), len);
     for (const int len : {1023, 1024, 1025, 2048, 2049, 3071, 65535, 65536, 65537, 200001})
         body(std::size_t{1}, len);

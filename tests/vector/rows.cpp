@@ -58,6 +58,7 @@ void expectBoth(Join<T> join, Split<T> split, Range range)
             for (int c = 0; c < channels; ++c)
                 range.store(joined(sources[static_cast<std::size_t>(c)][n], range), want.data(),
                             std::ptrdiff_t{n} * channels + c);
+        compared(channels * len);
         ASSERT_TRUE(got == want) << "byte " << got.firstDifference(want) << ", " << channels << " channels, "
                                  << len << " frames, control " << std::hex << control;
 
@@ -78,6 +79,7 @@ void expectBoth(Join<T> join, Split<T> split, Range range)
                             static_cast<std::size_t>(range.bytes));
                 row.data()[n] = static_cast<Zor32f>(std::ldexp(static_cast<double>(v), -63));
             }
+            compared(len);
             ASSERT_TRUE(rows[static_cast<std::size_t>(c)] == row)
                 << "channel " << c << " of " << channels << ", " << len << " frames";
         }
