@@ -4,7 +4,9 @@ set(ZORS_LIBRARY_OPTIONS
     -fvisibility=hidden -fvisibility-inlines-hidden -fno-exceptions -fno-rtti -fno-threadsafe-statics
     -ffp-contract=off -fno-math-errno -fno-trapping-math $<$<CONFIG:Release>:-O3>
     # g++ 12 takes the "undefined" operand inside its own intrinsics for an error of the caller.
-    "$<$<CXX_COMPILER_ID:GNU>:-Wno-uninitialized;-Wno-maybe-uninitialized>")
+    "$<$<CXX_COMPILER_ID:GNU>:-Wno-uninitialized;-Wno-maybe-uninitialized>"
+    # A unique symbol would keep the library from being unloaded.
+    "$<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique>")
 
 # The processor variants: vector width in bytes and instruction sets.
 set(ZORS_VARIANTS r5 avx2 avx512)

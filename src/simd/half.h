@@ -48,7 +48,8 @@ inline Vec<Half, lanesHalf> toHalf(Vec<float> v)
     constexpr std::int32_t rebias = (127 - 15) << 23, infinity = 0x7f800000;
     const auto bits = bitsAs<std::int32_t>(v);
     const I magnitude = bits & 0x7fffffff;
-    const I normal = (magnitude - rebias + (near ? 0xfff + (magnitude >> 13 & 1) : I{})) >> 13;
+    const auto more = wrapping(near ? 0xfff - rebias + (magnitude >> 13 & 1) : I{} - rebias);
+    const I normal = bitsAs<std::int32_t>(wrapping(magnitude) + more) >> 13;
     constexpr std::int32_t beyond = near ? 0x7c00 : 0x7bff;
     I r = select(magnitude >= 0x47800000, splat(beyond), normal);
     // Denormal halves are multiples of 2^-24.

@@ -130,7 +130,7 @@ inline Vec<std::int64_t> evenProducts(Vec<std::int32_t> a, Vec<std::int32_t> b)
 #else
     // From the unsigned product: a negative factor stands for 2^32 more than it is.
     const auto product = (Vec<std::uint64_t>)_mm_mul_epu32((__m128i)a, (__m128i)b);
-    const auto excess = bitsAs<std::uint64_t>((a >> 31 & b) + (b >> 31 & a)) << 32;
+    const auto excess = bitsAs<std::uint64_t>(wrapping(a >> 31 & b) + wrapping(b >> 31 & a)) << 32;
     return bitsAs<std::int64_t>(product - excess);
 #endif
 }

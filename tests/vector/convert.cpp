@@ -136,7 +136,7 @@ TEST(Scaling, IntegersToFloatsWithOneRounding)
     // Ties of a float, and of a float that was a tie of 32 bits before.
     for (int low : {0x7f, 0x80, 0x81, 0x17f, 0x180, 0x181, 0x3f, 0x40, 0x41})
         for (int high : {0x40000000, 0x7fffff00, 0x55555400})
-            all.insert(all.end(), {high + low - 256, 256 - low - high});
+            all.insert(all.end(), {high - 256 + low, 256 - low - high});
     Random random;
     for (int i = 0; i < 1000; ++i) all.push_back(static_cast<Zor32s>(random()));
     expectScales(zorsConvert_32s32f_Sfs, all);

@@ -41,13 +41,14 @@ std::vector<S> awkward()
         all.resize(65536);
         std::iota(all.begin(), all.end(), std::numeric_limits<S>::min());
     } else {
+        using U = std::uint64_t; // wraps, and so may its low bits
         Random random;
         for (int bit = 0; bit < std::numeric_limits<S>::digits; ++bit) {
-            const S power = static_cast<S>(S{1} << bit);
-            for (const S odd : {S{1}, S{3}, S{5}, S{255}, S{256}})
-                for (const S more : {S{0}, S{1}, S{2}})
-                    for (const S v : {static_cast<S>(power * odd + more), static_cast<S>(power * odd - more)})
-                        all.insert(all.end(), {v, static_cast<S>(S{0} - v)});
+            const U power = U{1} << bit;
+            for (const U odd : {U{1}, U{3}, U{5}, U{255}, U{256}})
+                for (const U more : {U{0}, U{1}, U{2}})
+                    for (const U v : {power * odd + more, power * odd - more})
+                        all.insert(all.end(), {static_cast<S>(v), static_cast<S>(U{0} - v)});
             all.push_back(static_cast<S>(random() >> bit));
             all.push_back(static_cast<S>(random() << bit));
         }
