@@ -27,9 +27,31 @@
  */
 ZORSAPI(ZorStatus, zorsSum_32f, (const Zor32f* pSrc, int len, Zor32f* pSum, ZorHintAlgorithm hint))
 ZORSAPI(ZorStatus, zorsSum_32fc, (const Zor32fc* pSrc, int len, Zor32fc* pSum, ZorHintAlgorithm hint))
+/** @} */
+
+/** @name Sum in double precision
+ * @{
+ */
+/**
+ * The sum of all elements, of a complex vector by real and imaginary parts.
+ *
+ * The single-precision members add in double precision and round once. With the hint ZOR_ALG_SPEED they add blocks
+ * of 1024 elements in single precision and the blocks in double precision. The error of the sum of n elements is at
+ * most (n / 32 + 5) u times the sum of their magnitudes, u = 2^-53, for complex vectors (n / 16 + 4) u, and half a
+ * unit in the last place of the result; with the hint it is 22 u in single precision, u = 2^-24, for complex vectors
+ * 37 u, and (n / 1024) u in double precision.
+ * @param pSrc source vector
+ * @param len number of elements
+ * @param pSum receives the sum
+ * @return zorStsNullPointer for a null pointer, then zorStsBadSize for @p len below 1, else zorStsOk
+ */
 ZORSAPI(ZorStatus, zorsSum_64f, (const Zor64f* pSrc, int len, Zor64f* pSum))
 ZORSAPI(ZorStatus, zorsSum_64fc, (const Zor64fc* pSrc, int len, Zor64fc* pSum))
+/** @} */
 
+/** @name Scaled sum
+ * @{
+ */
 /**
  * The sum of all elements times 2^-scaleFactor, of a complex vector by real and imaginary parts: exact, then rounded
  * once to nearest, ties to even, and saturated.
@@ -63,9 +85,26 @@ ZORSAPI(ZorStatus, zorsSum_32s_Sfs, (const Zor32s* pSrc, int len, Zor32s* pSum, 
  */
 ZORSAPI(ZorStatus, zorsMean_32f, (const Zor32f* pSrc, int len, Zor32f* pMean, ZorHintAlgorithm hint))
 ZORSAPI(ZorStatus, zorsMean_32fc, (const Zor32fc* pSrc, int len, Zor32fc* pMean, ZorHintAlgorithm hint))
+/** @} */
+
+/** @name Mean in double precision
+ * @{
+ */
+/**
+ * The mean of all elements, of a complex vector by real and imaginary parts: the result of the sum, rounded to its
+ * type, divided by @p len in double precision and rounded again.
+ * @param pSrc source vector
+ * @param len number of elements
+ * @param pMean receives the mean
+ * @return zorStsNullPointer for a null pointer, then zorStsBadSize for @p len below 1, else zorStsOk
+ */
 ZORSAPI(ZorStatus, zorsMean_64f, (const Zor64f* pSrc, int len, Zor64f* pMean))
 ZORSAPI(ZorStatus, zorsMean_64fc, (const Zor64fc* pSrc, int len, Zor64fc* pMean))
+/** @} */
 
+/** @name Scaled mean
+ * @{
+ */
 /**
  * The mean of all elements times 2^-scaleFactor, of a complex vector by real and imaginary parts: the exact quotient
  * of the exact sum and @p len, rounded once to nearest, ties to even, and saturated. Every scale factor is good; the
@@ -99,8 +138,30 @@ ZORSAPI(ZorStatus, zorsMean_32s_Sfs, (const Zor32s* pSrc, int len, Zor32s* pMean
  * @return zorStsNullPointer for a null pointer, then zorStsBadSize for @p len below 2, else zorStsOk
  */
 ZORSAPI(ZorStatus, zorsStdDev_32f, (const Zor32f* pSrc, int len, Zor32f* pStdDev, ZorHintAlgorithm hint))
-ZORSAPI(ZorStatus, zorsStdDev_64f, (const Zor64f* pSrc, int len, Zor64f* pStdDev))
+/** @} */
 
+/** @name Standard deviation in double precision
+ * @{
+ */
+/**
+ * The sample standard deviation (divisor len - 1): the rounded square root of
+ * max(0, len * Q - S * S) / ((len - 1) * len).
+ *
+ * S, the sum, and Q, the sum of squares, are added in double precision; with the hint ZOR_ALG_SPEED in single
+ * precision inside blocks of 1024 elements and in double precision across them. The difference loses the digits that
+ * the mean has more than the deviation: where the mean is large beside the deviation, subtract it first. An element
+ * that is infinite or not a number gives what is not a number.
+ * @param pSrc source vector
+ * @param len number of elements
+ * @param pStdDev receives the standard deviation
+ * @return zorStsNullPointer for a null pointer, then zorStsBadSize for @p len below 2, else zorStsOk
+ */
+ZORSAPI(ZorStatus, zorsStdDev_64f, (const Zor64f* pSrc, int len, Zor64f* pStdDev))
+/** @} */
+
+/** @name Scaled standard deviation
+ * @{
+ */
 /**
  * The sample standard deviation (divisor len - 1) times 2^-scaleFactor: the exact value of the root, rounded once to
  * nearest, ties to even, and saturated. Every scale factor is good; the deviation 0 stays 0.
@@ -130,7 +191,11 @@ ZORSAPI(ZorStatus, zorsStdDev_16s32s_Sfs, (const Zor16s* pSrc, int len, Zor32s* 
  */
 ZORSAPI(ZorStatus, zorsMeanStdDev_32f, (const Zor32f* pSrc, int len, Zor32f* pMean, Zor32f* pStdDev))
 ZORSAPI(ZorStatus, zorsMeanStdDev_64f, (const Zor64f* pSrc, int len, Zor64f* pMean, Zor64f* pStdDev))
+/** @} */
 
+/** @name Scaled mean and standard deviation
+ * @{
+ */
 /**
  * The mean and the sample standard deviation (divisor len - 1), each times 2^-scaleFactor: the exact values, rounded
  * once to nearest, ties to even, and saturated. Every scale factor is good; 0 stays 0.
