@@ -60,7 +60,7 @@ R scaledDeviation(Zor64s sum, Zor64s squares, int len, int scaleFactor)
     if (root >= std::numeric_limits<R>::max()) return std::numeric_limits<R>::max();
 
     const auto below = static_cast<Zor64s>(root);
-    const auto middle = static_cast<UInt128>(2 * below + 1);
+    const UInt128 middle = 2 * static_cast<UInt128>(below) + 1;
     const UInt128 left = 4 * radicand << 2 * std::max(-shift, 0);
     const UInt128 right = middle * middle * divisor << 2 * std::max(shift, 0);
     return saturated<R>(below + (left > right || (left == right && below % 2 != 0)));
