@@ -88,8 +88,7 @@ void Gauss<T>::fill(T* pDst, int len)
     double values[2 * mostPairs];
     while (len > 0) {
         const int count = drawValues(values, len);
-        blocks<lanes<double>>(count,
-                              [&](auto at) { store(pDst, at, toElementsSaturated<T>(load(values, at))); });
+        blocks<lanes<double>>(count, [&](auto at) { store(pDst, at, toElements<T>(load(values, at))); });
         pDst += count;
         len -= count;
     }

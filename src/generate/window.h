@@ -24,7 +24,7 @@ struct Nearest {
         if constexpr (std::is_same_v<V, W>)
             return v * w;
         else
-            return rounded<ElementOf<V>, Rounding::nearestEven, lanesOf<V>>(toFloat<lanesOf<V>>(v) * w);
+            return rounded<ElementOf<V>, Rounding::nearestEven>(toFloat<lanesOf<V>>(v) * w);
     }
 };
 

@@ -88,7 +88,7 @@ ZorStatus blackmanScaled(Zor16s* pSrcDst, int len, int alphaQ15, int scaleFactor
     withScale<Zor32f>(scaleFactor, [&](auto scale) {
         const auto product = [scale]<class V, class W>(V v, W w) {
             constexpr int n = lanesOf<V>;
-            return rounded<Zor16s, Rounding::nearestEven, n>(scale(toFloat<n>(v) * w));
+            return rounded<Zor16s, Rounding::nearestEven>(scale(toFloat<n>(v) * w));
         };
         weighBySymmetric(shape, pSrcDst, pSrcDst, len, product);
     });

@@ -40,37 +40,10 @@ inline Vec<T, N> covered(Vec<T, N> v, Part<N> at, T other)
 template <class F, class V>
 inline Vec<F, lanesOf<V>> converted(V v)
 {
-    return __builtin_convertvector(__builtin_convertvector(v, Vec<std::int32_t, lanesOf<V>>),
-                                   Vec<F, lanesOf<V>>);
-}
-
-// Rounded to odd: a value between two floats goes to the one whose last bit is set. It then lies on the same side as
-// before of every number of fewer bits, so rounding it once more, to an integer, rounds the original.
-inline Vec<float, lanes<double>> toSingleOdd(Vec<double> v)
-{
-    constexpr std::uint64_t lost = (std::uint64_t{1} << 29) - 1;
-    const auto bits = bitsAs<std::uint64_t>(v);
-    return toFloat<lanes<double>>(bitsAs<double>((bits | ((bits & lost) + lost)) & ~lost));
-}
-
-// Rounded to integers and saturated.
-template <class T, Rounding rounding>
-inline Vec<T, lanes<double>> integers(Vec<double> v)
-{
-    return rounded<T, rounding, lanes<double>>(toSingleOdd(v));
-}
-
-// a / b * factor, rounded to an integer and saturated. Integers a and b, and a factor that is a power of two.
-template <class T, Rounding rounding>
-inline Vec<T, lanes<float>> quotient(Vec<float> a, Vec<float> b, float factor)
-{
-    return rounded<T, rounding, lanes<float>>(a / b * factor);
-}
-
-template <class T, Rounding rounding>
-inline Vec<T, lanes<double>> quotient(Vec<double> a, Vec<double> b, double factor)
-{
-    return integers<T, rounding>(a / b * factor);
+    if constexpr (std::is_same_v<F, float>)
+        return toFloat<lanesOf<V>>(v);
+    else
+        return toDouble<lanesOf<V>>(v);
 }
 
 // The zero divisors met on the way. A quotient by zero needs no more: it is infinite or not a number, which saturates

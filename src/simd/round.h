@@ -170,26 +170,11 @@ inline Vec<T> roundedTo(const Group<double, 8 / sizeof(T)>& g)
     }
 }
 
-// The first N lanes of a vector; or, where it has half as many, the vector twice.
-template <int N, class V>
-inline auto resized(V v)
+// The same for one vector, whose lanes then fill a part of a register.
+template <class T, Rounding rounding>
+inline Vec<T, lanes<float>> rounded(Vec<float> v)
 {
-    using T = ElementOf<V>;
-    return []<int... I>(V from, std::integer_sequence<int, I...>)
-    {
-        return (Vec<T, N>)__builtin_shufflevector(from, from, I...);
-    }
-    (v, std::make_integer_sequence<int, N>{});
-}
-
-// The same for one vector of floats, whose lanes then fill a part of a register.
-template <class T, Rounding rounding, int N>
-inline Vec<T, N> rounded(Vec<float, N> v)
-{
-    if constexpr (N < lanes<float>) {
-        static_assert(2 * N == lanes<float>);
-        return resized<N>(rounded<T, rounding, 2 * N>(resized<2 * N>(v)));
-    } else if constexpr (std::is_same_v<T, std::uint32_t>) {
+    if constexpr (std::is_same_v<T, std::uint32_t>) {
         // The upper half of the range is converted from 2^31 below.
         v = larger(v, Vec<float>{});
         const auto upper = v >= 0x1p31f;
@@ -199,8 +184,16 @@ inline Vec<T, N> rounded(Vec<float, N> v)
         return roundedTo<T, rounding>(Group<float, 1>{{v}});
     } else {
         using Limits = std::numeric_limits<T>;
-        return narrowed<T, N>(roundedBetween<rounding>(Limits::min(), Limits::max(), v));
+        return narrowed<T, lanes<float>>(roundedBetween<rounding>(Limits::min(), Limits::max(), v));
     }
+}
+
+template <class T, Rounding rounding>
+inline Vec<T, lanes<double>> rounded(Vec<double> v)
+{
+    using Limits = std::numeric_limits<T>;
+    const auto twice = roundedBetween<rounding>(Limits::min(), Limits::max(), v, v);
+    return narrowed<T, lanes<double>>(firstHalf(twice));
 }
 
 } // namespace zors::ZORS_VARIANT

@@ -113,6 +113,16 @@ inline Pair<V> deinterleave(V a, V b)
     return {permute<Even>(a, b), permute<Odd>(a, b)};
 }
 
+template <class V>
+inline Vec<ElementOf<V>, lanesOf<V> / 2> firstHalf(V v)
+{
+    return [=]<int... I>(std::integer_sequence<int, I...>)
+    {
+        return __builtin_shufflevector(v, v, I...);
+    }
+    (std::make_integer_sequence<int, lanesOf<V> / 2>{});
+}
+
 // The lanes of a, then those of b.
 template <class V>
 inline Vec<ElementOf<V>, 2 * lanesOf<V>> concatenated(V a, V b)

@@ -49,7 +49,7 @@ ZorStatus divide(auto divisor, auto dividend, Zor16sc* pDst, int len, int scaleF
         const auto q = fraction(widened<Zor16s>(dividend(at)), widened<Zor16s>(divisor(at)), Vec<Zor64f>{});
         zeros.note(q.divisor);
         const auto part = [=, b = q.divisor](Vec<Zor64f> v) {
-            return quotient<Zor16s, Rounding::nearestEven>(v, b, factor);
+            return rounded<Zor16s, Rounding::nearestEven>(v / b * factor);
         };
         store(pPairs, at, join<Zor16s, step>(part(q.re), part(q.im)));
     });

@@ -29,7 +29,7 @@ ZorStatus divideIn(auto divisor, auto dividend, T* pDst, int len, int scaleFacto
     blocks<lanes<F>>(len, [&, factor](auto at) {
         const Vec<F> a = converted<F>(dividend(at)), b = converted<F>(divisor(at));
         zeros.note(b);
-        store(pDst, at, quotient<T, rounding>(a, b, factor));
+        store(pDst, at, rounded<T, rounding>(a / b * factor));
     });
     return zeros.status();
 }

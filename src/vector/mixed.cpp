@@ -1,7 +1,7 @@
 // Arithmetic on sources of different types, and products added to what the destination holds.
 #include "frame/bind.h"
 #include "shapes.h"
-#include "simd/divide.h"
+#include "simd/round.h"
 
 #include <cmath>
 
@@ -145,7 +145,7 @@ ZorStatus mulC32f16s(const Zor32f* pSrc, Zor32f val, Zor16s* pDst, int len, int 
         600; // 2^600 times the smallest product saturates, 2^-600 times the largest is nothing
     const Zor64f factor = std::ldexp(1.0, -std::clamp(scaleFactor, -most, most)), wide = val;
     blocks<n>(len, [=](auto at) {
-        store(pDst, at, integers<Zor16s, Rounding::nearestEven>(toDouble<n>(load(pSrc, at)) * wide * factor));
+        store(pDst, at, rounded<Zor16s, Rounding::nearestEven>(toDouble<n>(load(pSrc, at)) * wide * factor));
     });
     return zorStsOk;
 }

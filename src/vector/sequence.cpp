@@ -22,7 +22,7 @@ template <class T, int N>
 Vec<T, N> toElements(Vec<Zor32f, N> v)
 {
     if constexpr (std::is_integral_v<T>)
-        return rounded<T, Rounding::halfAway, N>(v);
+        return rounded<T, Rounding::halfAway>(v);
     else if constexpr (std::is_same_v<T, Zor64f>)
         return toDouble<N>(v);
     else
