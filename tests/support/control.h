@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 #include <xmmintrin.h>
+#include <zortypes.h>
 
 namespace zors::test {
 
@@ -21,6 +22,17 @@ void underControl(unsigned control, Function function)
     const unsigned after = _mm_getcsr();
     _mm_setcsr(standardControl);
     ASSERT_EQ(after & ~noted, control);
+}
+
+// The function, to be called with any arguments under a control word.
+template <class Function>
+auto under(unsigned control, Function function)
+{
+    return [=](auto... arguments) {
+        ZorStatus status = zorStsOk;
+        underControl(control, [&] { status = function(arguments...); });
+        return status;
+    };
 }
 
 } // namespace zors::test

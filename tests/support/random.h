@@ -1,15 +1,43 @@
-// Vectors of random bits, placed as unluckily as a caller may place them.
+// Elements that find faults, and vectors of random bits, placed as unluckily as a caller may place them.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <limits>
 #include <random>
+#include <type_traits>
 #include <vector>
 
 namespace zors::test {
 
 using Random = std::mt19937_64;
+
+template <class T>
+concept Complex = requires
+{
+    T{}.re;
+};
+
+// Numbers of all sizes, the ends of the range and their neighbours, zeros and halves: all of them finite.
+template <class T>
+T element(Random& random)
+{
+    using Limits = std::numeric_limits<T>;
+    const std::uint64_t bits = random();
+    if constexpr (Complex<T>) {
+        return {element<decltype(T::re)>(random), element<decltype(T::im)>(random)};
+    } else if constexpr (std::is_floating_point_v<T>) {
+        const T sign = bits & 1 ? T(-1) : T(1);
+        if (bits >> 60 == 0) return sign * T(0);
+        if (bits >> 60 == 1) return sign * (T(bits >> 1 & 1023) + T(0.5));
+        return sign * T(bits >> 8) / T(std::uint64_t{1} << (20 + (bits >> 1 & 31)));
+    } else {
+        if (bits >> 62 == 0) return static_cast<T>(Limits::min() + static_cast<T>(bits % 3));
+        if (bits >> 62 == 1) return static_cast<T>(Limits::max() - static_cast<T>(bits % 3));
+        return static_cast<T>(static_cast<T>(random()) >> bits % (8 * sizeof(T)));
+    }
+}
 
 // Elements that begin offset alignments of their type past a 64-byte boundary, between other random bytes.
 template <class T>

@@ -1,214 +1,216 @@
-// Arithmetic without a scale factor, bit for bit against one operation of the element type at a time.
+// Arithmetic against one operation of a floating-point type at a time, bit for bit, and of integers in 128 bits.
 #include "support/oracle.h"
 
 #include <zors.h>
 
-#include <algorithm>
 #include <cfloat>
 #include <climits>
 #include <cmath>
-#include <limits>
+#include <numeric>
 
 namespace {
 
 using namespace zors::test;
+using Exact = __int128;
 
+// x * 2^-scaleFactor to nearest, ties to even, saturated; 0 above the factor that a function gives up at.
 template <class T>
-inline constexpr bool isComplex = requires(T t)
+T scaled(Exact x, int scaleFactor, int zeroAbove = INT_MAX)
 {
-    t.re;
-};
-
-struct Add {
-    Zor16s operator()(Zor16s a, Zor16s b) const { return saturated(int{a} + b); }
-    template <class T>
-    T operator()(T a, T b) const
-    {
-        if constexpr (isComplex<T>)
-            return {a.re + b.re, a.im + b.im};
-        else
-            return a + b;
+    const Exact least = std::numeric_limits<T>::min(), most = std::numeric_limits<T>::max();
+    if (scaleFactor > std::min(zeroAbove, 100)) return 0;
+    if (scaleFactor > 0) {
+        const Exact half = Exact{1} << (scaleFactor - 1), rest = x & (2 * half - 1);
+        x >>= scaleFactor;
+        if (rest > half || (rest == half && (x & 1))) ++x;
     }
-    static Zor16s saturated(int v) { return static_cast<Zor16s>(std::clamp(v, -32768, 32767)); }
-};
-
-struct Subtract { // the first operand is the subtrahend
-    Zor16s operator()(Zor16s a, Zor16s b) const { return Add::saturated(int{b} - a); }
-    template <class T>
-    T operator()(T a, T b) const
-    {
-        if constexpr (isComplex<T>)
-            return {b.re - a.re, b.im - a.im};
-        else
-            return b - a;
-    }
-};
-
-struct Multiply {
-    Zor16s operator()(Zor16s a, Zor16s b) const { return Add::saturated(int{a} * b); }
-    template <class T>
-    T operator()(T a, T b) const
-    {
-        if constexpr (isComplex<T>)
-            return {a.re * b.re - a.im * b.im, a.re * b.im + a.im * b.re};
-        else
-            return a * b;
-    }
-};
-
-template <class T>
-void expectElement(T got, T want, int at, int len)
-{
-    if constexpr (isComplex<T>) {
-        expectElement(got.re, want.re, at, len);
-        expectElement(got.im, want.im, at, len);
-    } else if (want != want) { // which of two that are not numbers is left is nobody's promise
-        ASSERT_TRUE(got != got) << "element " << at << " of " << len;
-    } else {
-        ASSERT_EQ(std::memcmp(&got, &want, sizeof got), 0)
-            << "element " << at << " of " << len << ": " << +got << " instead of " << +want;
-    }
+    for (int s = scaleFactor; s < 0 && x != 0 && x >= least && x <= most; ++s) x *= 2;
+    return static_cast<T>(std::clamp(x, least, most));
 }
 
-// Random bits hold numbers of every size, infinities and what is not a number.
-template <class T, class Call, class Operation>
-void expect(Call call, Operation operation)
+template <class P>
+struct Pair {
+    P re, im;
+
+    friend Pair operator+(Pair a, Pair b) { return {a.re + b.re, a.im + b.im}; }
+    friend Pair operator-(Pair a, Pair b) { return {a.re - b.re, a.im - b.im}; }
+    friend Pair operator*(P a, Pair b) { return {a * b.re, a * b.im}; }
+    friend Pair operator*(Pair a, Pair b) { return {a.re * b.re - a.im * b.im, a.re * b.im + a.im * b.re}; }
+};
+
+// What an operation works on: floating-point types themselves, integers in as many bits as it takes.
+template <class T>
+auto wide(T v)
 {
-    Random random;
-    for (int len = 1; len <= 257; ++len) {
-        const RandomVector<T> a(len, len % 5, random), b(len, 1, random);
-        RandomVector<T> got(len, len % 3, random);
-        const RandomVector<T> old = got;
-        ASSERT_EQ(call(a.data(), b.data(), got.data(), len), zorStsOk);
-        compared(len);
-        for (int i = 0; i < len; ++i) {
-            expectElement(got.data()[i], operation(a.data()[i], b.data()[i], old.data()[i]), i, len);
-            if (testing::Test::HasFatalFailure()) return;
-        }
-    }
+    if constexpr (Complex<T>)
+        return Pair<decltype(wide(v.re))>{wide(v.re), wide(v.im)};
+    else
+        return std::conditional_t<std::is_floating_point_v<T>, T, Exact>(v);
 }
 
-template <class T>
-using TwoSources = ZorStatus (*)(const T*, const T*, T*, int);
-template <class T>
-using OneInPlace = ZorStatus (*)(const T*, T*, int);
-template <class T>
-using WithConstant = ZorStatus (*)(const T*, T, T*, int);
-template <class T>
-using ConstantInPlace = ZorStatus (*)(T, T*, int);
-
-template <class T, class Operation>
-void expectTwo(TwoSources<T> outOfPlace, OneInPlace<T> inPlace, Operation operation)
+// The element that an exact result gives.
+template <class T, class Result>
+T narrow(Result v, int scaleFactor, int zeroAbove)
 {
-    expect<T>(outOfPlace, [=](T a, T b, T) { return operation(a, b); });
-    expect<T>([=](auto* a, auto*, T* p, int len) { return inPlace(a, p, len); },
-              [=](T a, T, T old) { return operation(a, old); });
+    if constexpr (Complex<T>)
+        return {narrow<decltype(T::re)>(v.re, scaleFactor, zeroAbove),
+                narrow<decltype(T::im)>(v.im, scaleFactor, zeroAbove)};
+    else if constexpr (std::is_floating_point_v<T>)
+        return static_cast<T>(v);
+    else
+        return scaled<T>(v, scaleFactor, zeroAbove);
 }
 
-// The constants are the first elements: of every kind in turn.
-template <class T, class Operation>
-void expectConstant(WithConstant<T> outOfPlace, ConstantInPlace<T> inPlace, Operation operation)
+constexpr int factors[] = {0,   1,   2,   3,   7,    8,     9,       14,      15,         16,  17,
+                           29,  30,  31,  32,  33,   47,    61,      62,      63,         64,  -1,
+                           -2,  -6,  -7,  -8,  -14,  -15,   -16,     -29,     -30,        -31, -32,
+                           -62, -63, -64, 100, 4000, -4000, INT_MAX, INT_MIN, INT_MIN + 1};
+
+// All factors at some lengths, and all lengths at some factor.
+template <class Body>
+void eachCase(Body body)
 {
-    T constant{};
-    const auto valueOf = [&](const T* b) { return constant = b[0]; };
-    expect<T>([&](auto* a, auto* b, T* p, int len) { return outOfPlace(a, valueOf(b), p, len); },
-              [&](T a, T, T) { return operation(a, constant); });
-    expect<T>([&](auto*, auto* b, T* p, int len) { return inPlace(valueOf(b), p, len); },
-              [&](T, T, T old) { return operation(old, constant); });
+    for (const int factor : factors)
+        for (const int len : {1, 5, 63, 1003})
+            if (!testing::Test::HasFatalFailure()) body(len, factor);
+    for (int len = 1; len <= 257; ++len)
+        if (!testing::Test::HasFatalFailure()) body(len, factors[len % std::ssize(factors)]);
 }
 
-#define TWO(type, name, operation)                                                                           \
-    expectTwo<Zor##type>(zors##name##_##type, zors##name##_##type##_I, operation)
-#define CONSTANT(type, name, operation)                                                                      \
-    expectConstant<Zor##type>(zors##name##_##type, zors##name##_##type##_I, operation)
+// What stands behind the length is a scale factor or nothing.
+template <class A, class B, class D, class... Factor, class Call, class Operation>
+void expectCases(Call call, Operation operation, int zeroAbove = INT_MAX)
+{
+    eachCase([&](int len, int factor) {
+        expectEach<A, B, D>(
+            len, [&](auto... a) { return call(a..., Factor(factor)...); },
+            [&](A a, B b, D old) {
+                return narrow<D>(operation(wide(a), wide(b), wide(old)), (0 + ... + Factor(factor)),
+                                 zeroAbove);
+            });
+    });
+}
 
-#define EXPECT_FAMILY(type)                                                                                  \
+// The shapes of arguments: two sources; a source and the destination; either with a constant, the first element of
+// another source.
+template <class A, class B, class D, class... Factor, class Operation>
+void expect(Operation operation, ZorStatus (*function)(const A*, const B*, D*, int, Factor...),
+            int zeroAbove = INT_MAX)
+{
+    expectCases<A, B, D, Factor...>(function, operation, zeroAbove);
+}
+
+template <class A, class D, class... Factor, class Operation>
+void expect(Operation operation, ZorStatus (*function)(const A*, D*, int, Factor...), int zeroAbove = INT_MAX)
+{
+    expectCases<A, A, D, Factor...>(
+        [=](auto* a, auto*, D* p, auto... rest) { return function(a, p, rest...); },
+        [=](auto a, auto, auto old) { return operation(a, old); }, zeroAbove);
+}
+
+template <class T, class... Factor, class Operation>
+void expect(Operation operation, ZorStatus (*function)(const T*, T, T*, int, Factor...))
+{
+    T val{};
+    expectCases<T, T, T, Factor...>(
+        [&](auto* a, auto* b, T* p, auto... rest) { return function(a, val = *b, p, rest...); },
+        [&](auto a, auto, auto) { return operation(a, wide(val)); });
+}
+
+template <class T, class... Factor, class Operation>
+void expect(Operation operation, ZorStatus (*function)(T, T*, int, Factor...))
+{
+    T val{};
+    expectCases<T, T, T, Factor...>(
+        [&](auto*, auto* b, T* p, auto... rest) { return function(val = *b, p, rest...); },
+        [&](auto, auto, auto old) { return operation(old, wide(val)); });
+}
+
+template <class Operation, class... Function>
+void each(Operation operation, Function... function)
+{
+    (expect(operation, function), ...);
+}
+
+constexpr auto sum = [](auto a, auto b, auto...) { return a + b; };
+constexpr auto difference = [](auto a, auto b, auto...) {
+    return b - a;
+}; // the first operand is the subtrahend
+constexpr auto product = [](auto a, auto b, auto...) { return a * b; };
+constexpr auto quotient = [](auto a, auto b, auto...) { return b / a; };
+constexpr auto productSum = [](auto a, auto b, auto old) { return old + a * b; };
+constexpr auto turned = [](auto operation) { return [=](auto a, auto b) { return operation(b, a); }; };
+
+#define PLAIN(name, type) zors##name##_##type, zors##name##_##type##_I
+#define SCALED(name, type) zors##name##_##type##_Sfs, zors##name##_##type##_ISfs
+
+#define EXPECT_FAMILY(FORMS, type)                                                                           \
     do {                                                                                                     \
-        TWO(type, Add, Add{});                                                                               \
-        TWO(type, Sub, Subtract{});                                                                          \
-        TWO(type, Mul, Multiply{});                                                                          \
-        CONSTANT(type, AddC, Add{});                                                                         \
-        CONSTANT(type, SubC, [](auto source, auto val) { return Subtract{}(val, source); });                 \
-        CONSTANT(type, SubCRev, Subtract{});                                                                 \
-        CONSTANT(type, MulC, Multiply{});                                                                    \
+        each(sum, FORMS(Add, type), FORMS(AddC, type));                                                      \
+        each(difference, FORMS(Sub, type), FORMS(SubCRev, type));                                            \
+        each(turned(difference), FORMS(SubC, type));                                                         \
+        each(product, FORMS(Mul, type), FORMS(MulC, type));                                                  \
     } while (false)
 
 TEST(Arithmetic, RoundsEachOperationOnce)
 {
-    EXPECT_FAMILY(32f);
-    EXPECT_FAMILY(64f);
+    EXPECT_FAMILY(PLAIN, 32f);
+    EXPECT_FAMILY(PLAIN, 64f);
+    EXPECT_FAMILY(PLAIN, 32fc);
+    EXPECT_FAMILY(PLAIN, 64fc);
+    each(quotient, PLAIN(Div, 32f), PLAIN(Div, 64f), PLAIN(DivCRev, 32f));
+    each(turned(quotient), PLAIN(DivC, 32f), PLAIN(DivC, 64f));
+    each(productSum, zorsAddProduct_32f, zorsAddProduct_64f, zorsAddProduct_32fc, zorsAddProduct_64fc);
 }
 
-TEST(Arithmetic, ComplexPartByPart)
+TEST(Arithmetic, ScalesRoundsAndSaturatesIntegers)
 {
-    EXPECT_FAMILY(32fc);
-    EXPECT_FAMILY(64fc);
-}
-
-TEST(Arithmetic, SaturatesIntegers)
-{
-    EXPECT_FAMILY(16s);
-}
-
-TEST(Arithmetic, AddsRoundedProducts)
-{
-    const auto product = [](auto a, auto b, auto old) { return Add{}(old, Multiply{}(a, b)); };
-    expect<Zor32f>(zorsAddProduct_32f, product);
-    expect<Zor64f>(zorsAddProduct_64f, product);
-    expect<Zor32fc>(zorsAddProduct_32fc, product);
-    expect<Zor64fc>(zorsAddProduct_64fc, product);
-}
-
-// pDst[n] = operation(pSrc1[n], pSrc2[n], pDst[n]) for sources of any types.
-template <class A, class B, class D, class Call, class Operation>
-void expectMixed(Call call, Operation operation)
-{
-    Random random;
-    for (int len = 1; len <= 257; ++len) {
-        const RandomVector<A> a(len, 1, random);
-        const RandomVector<B> b(len, len % 3, random);
-        RandomVector<D> got(len, len % 5, random), want = got;
-        for (int i = 0; i < len; ++i) want.data()[i] = operation(a.data()[i], b.data()[i], want.data()[i]);
-        ASSERT_EQ(call(a.data(), b.data(), got.data(), len), zorStsOk);
-        compared(len);
-        ASSERT_TRUE(got == want) << "byte " << got.firstDifference(want) << " of length " << len;
-    }
+    EXPECT_FAMILY(PLAIN, 16s);
+    EXPECT_FAMILY(SCALED, 8u);
+    EXPECT_FAMILY(SCALED, 16u);
+    EXPECT_FAMILY(SCALED, 16s);
+    EXPECT_FAMILY(SCALED, 32s);
+    EXPECT_FAMILY(SCALED, 16sc);
+    EXPECT_FAMILY(SCALED, 32sc);
+    expect(sum, zorsAdd_64s_Sfs, 63);
+    expect(sum, zorsAdd_64s_ISfs, 63);
+    expect(product, zorsMul_Low_32s_Sfs);
+    each(productSum, zorsAddProduct_16s_Sfs, zorsAddProduct_16s32s_Sfs);
+    expect(productSum, zorsAddProduct_32s_Sfs, 62);
 }
 
 TEST(Arithmetic, MixedTypes)
 {
-    expectMixed<Zor8u, Zor8u, Zor16u>(zorsAdd_8u16u,
-                                      [](int a, int b, int) { return static_cast<Zor16u>(a + b); });
-    expectMixed<Zor16s, Zor16s, Zor32f>(zorsAdd_16s32f,
-                                        [](int a, int b, float) { return static_cast<Zor32f>(a + b); });
-    expectMixed<Zor16s, Zor16s, Zor32f>(zorsSub_16s32f,
-                                        [](int a, int b, float) { return static_cast<Zor32f>(b - a); });
-    expectMixed<Zor16s, Zor16s, Zor32f>(zorsMul_16s32f,
-                                        [](int a, int b, float) { return static_cast<Zor32f>(a * b); });
-    expectMixed<Zor16s, Zor16s, Zor32s>(
-        [](auto* a, auto*, Zor32s* p, int len) { return zorsAdd_16s32s_I(a, p, len); },
-        [](Zor16s a, Zor16s, Zor32s old) {
-            constexpr Zor64s least = std::numeric_limits<Zor32s>::min(),
-                             most = std::numeric_limits<Zor32s>::max();
-            return static_cast<Zor32s>(std::clamp(Zor64s{a} + old, least, most));
-        });
-    const auto product = [](Zor32f a, Zor32fc b) { return Zor32fc{a * b.re, a * b.im}; };
-    Random random;
-    for (int len = 1; len <= 257; ++len) {
-        const RandomVector<Zor32f> a(len, 1, random);
-        const RandomVector<Zor32fc> b(len, len % 3, random);
-        RandomVector<Zor32fc> got(len, 2, random), inPlace = b;
-        ASSERT_EQ(zorsMul_32f32fc(a.data(), b.data(), got.data(), len), zorStsOk);
-        ASSERT_EQ(zorsMul_32f32fc_I(a.data(), inPlace.data(), len), zorStsOk);
-        for (int i = 0; i < len; ++i) {
-            expectElement(got.data()[i], product(a.data()[i], b.data()[i]), i, len);
-            expectElement(inPlace.data()[i], got.data()[i], i, len);
-        }
-        if (HasFatalFailure()) return;
-    }
+    each(sum, zorsAdd_8u16u, zorsAdd_16s32f, zorsAdd_16s32s_I);
+    each(difference, zorsSub_16s32f);
+    // As a floating-point product, which may be a negative zero.
+    expect([](auto a, auto b, auto) { return static_cast<float>(a) * static_cast<float>(b); },
+           zorsMul_16s32f);
+    each(product, PLAIN(Mul, 32f32fc), zorsMul_16u16s_Sfs, zorsMul_16s32s_Sfs, SCALED(Mul, 32s32sc));
 }
 
-// The exact product, scaled, to nearest with ties to even.
+// All pairs of 8-bit elements at every factor that makes a difference.
+TEST(Arithmetic, AllPairsOf8Bits)
+{
+    const auto check = [](auto operation, auto function) {
+        for (int factor = -9; factor <= 18; ++factor)
+            for (int c = 0; c < 256; ++c) {
+                Zor8u a[256], b[256], got[256];
+                std::iota(a, a + 256, Zor8u{0});
+                std::fill(b, b + 256, static_cast<Zor8u>(c));
+                function(a, b, got, 256, factor);
+                compared(256);
+                for (int i = 0; i < 256; ++i)
+                    ASSERT_EQ(got[i], scaled<Zor8u>(operation(Exact{i}, Exact{c}), factor))
+                        << i << ", " << c << ", factor " << factor;
+            }
+    };
+    check(sum, zorsAdd_8u_Sfs);
+    check(difference, zorsSub_8u_Sfs);
+    check(product, zorsMul_8u_Sfs);
+}
+
+// The exact product, scaled, to nearest with ties to even: of ties and their neighbours, and of anything at all.
 TEST(Arithmetic, FloatProductsAsIntegers)
 {
     const auto expected = [](Zor32f a, Zor32f b, int scaleFactor) {
@@ -221,17 +223,34 @@ TEST(Arithmetic, FloatProductsAsIntegers)
         for (int len = 1; len <= 257; ++len) {
             RandomVector<Zor32f> a(len, 1, random);
             RandomVector<Zor16s> got(len, len % 7, random), want = got;
-            Zor32f val = 0x1.000002p3f;
-            // Ties and their neighbours, and anything at all.
+            const Zor32f val = len % 3 == 0 ? 0x1.000002p3f : len % 2 ? 8 : FLT_MIN;
             for (int i = 0; i < len; i += 2)
                 a.data()[i] = std::ldexp(static_cast<Zor32f>(static_cast<int>(random() % 8191) - 4095),
                                          std::clamp(scaleFactor, -60, 60) - (len % 3 ? 4 : 1));
-            if (len % 3) val = len % 2 ? 8 : FLT_MIN;
             for (int i = 0; i < len; ++i) want.data()[i] = expected(a.data()[i], val, scaleFactor);
             ASSERT_EQ(zorsMulC_32f16s_Sfs(a.data(), val, got.data(), len, scaleFactor), zorStsOk);
+            compared(len);
             ASSERT_TRUE(got == want) << "byte " << got.firstDifference(want) << " of length " << len
                                      << ", factor " << scaleFactor;
         }
+}
+
+TEST(Arithmetic, ConstantsOfTheDefinition)
+{
+    const struct {
+        Zor16s a, b;
+        int scaleFactor;
+        Zor16s sum;
+    } cases[] = {{1, 2, 1, 2},          {1, 0, 1, 0},       {-3, 0, 1, -2},       {32767, 32767, 16, 1},
+                 {32767, 32767, 17, 0}, {3, 4, -16, 32767}, {3, -4, -16, -32768}, {4, -4, -16, 0}};
+    Zor16s got;
+    for (const auto& c : cases) {
+        EXPECT_EQ(zorsAdd_16s_Sfs(&c.a, &c.b, &got, 1, c.scaleFactor), zorStsOk);
+        EXPECT_EQ(got, c.sum) << c.a << " + " << c.b << ", factor " << c.scaleFactor;
+    }
+    const Zor16s least = -32768;
+    EXPECT_EQ(zorsMul_16s_Sfs(&least, &least, &got, 1, 1), zorStsOk);
+    EXPECT_EQ(got, 32767);
 }
 
 } // namespace
