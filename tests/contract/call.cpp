@@ -7,6 +7,8 @@
 namespace zors::contract {
 namespace {
 
+using test::below;
+
 constexpr std::size_t mostParameters = 12;
 constexpr std::size_t mostBytes = 16 * (mostLength + 64);
 
@@ -19,7 +21,7 @@ bool nameHas(const Export& e, std::string_view code)
 template <class T>
 T windowAlpha(Random& random)
 {
-    return static_cast<T>(random.below(2001) - 1000) * T(0.00029);
+    return static_cast<T>(below(2001, random) - 1000) * T(0.00029);
 }
 
 // Scalars with a meaning get values that exercise it; all others any value of their type.
@@ -27,19 +29,19 @@ void setScalar(const Export& e, const Parameter& p, Value& value, Random& random
 {
     constexpr int factors[] = {0, 1, 2, 3, 7, 15, 16, 31, 40, -1, -2, -8, -31, -40, 2000, -2000};
     if (p.name == "scaleFactor")
-        value.set(factors[random.below(16)]);
+        value.set(factors[below(16, random)]);
     else if (p.name == "rndMode")
-        value.set(random.below(nameHas(e, "16f") ? 2 : 3));
+        value.set(below(nameHas(e, "16f") ? 2 : 3, random));
     else if (p.name == "hint")
-        value.set(random.below(3));
+        value.set(below(3, random));
     else if (p.name == "alpha" && p.size == sizeof(Zor32f))
         value.set(windowAlpha<Zor32f>(random));
     else if (p.name == "alpha")
         value.set(windowAlpha<Zor64f>(random));
     else if (p.name == "alphaQ15")
-        value.set(random.below(0x8000) - 0x4000);
+        value.set(below(0x8000, random) - 0x4000);
     else if (p.name == "srcBitOffset" || p.name == "dstBitOffset")
-        value.set(random.below(18));
+        value.set(below(18, random));
     else if (p.name == "magn") {
         // A magnitude is not negative: the sign bit of its last byte is cleared.
         p.randomise(value.data(), 1, random);
@@ -55,7 +57,7 @@ void setVector(const Parameter& p, std::vector<std::byte>& bytes, Random& random
     p.randomise(bytes.data(), bytes.size() / p.size, random);
     if (p.name != "pSrcBits") return;
     for (std::size_t at = 0; at < bytes.size(); at += p.size) {
-        const Zor32s count = random.below(9); // a byte for each word at the most
+        const Zor32s count = below(9, random); // a byte for each word at the most
         std::memcpy(&bytes[at], &count, sizeof count);
     }
 }

@@ -13,7 +13,7 @@ template <class T>
 void randomise(void* p, std::size_t count, Random& random)
 {
     auto* element = static_cast<T*>(p);
-    for (std::size_t i = 0; i < count; ++i) element[i] = random.element<T>();
+    for (std::size_t i = 0; i < count; ++i) element[i] = test::element<T>(random);
 }
 
 template <class T>

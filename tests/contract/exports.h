@@ -1,7 +1,7 @@
 // The table of all public functions, made from their declarations.
 #pragma once
 
-#include "random.h"
+#include "support/random.h"
 
 #include <zortypes.h>
 
@@ -10,6 +10,8 @@
 #include <vector>
 
 namespace zors::contract {
+
+using test::Random;
 
 // An argument of any type.
 class Value {

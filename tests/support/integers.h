@@ -26,6 +26,15 @@ struct Range {
     }
 };
 
+// The plain form of what makes one integer of the range of each element.
+template <class Operation>
+auto stored(Range range, Operation operation)
+{
+    return [=](const auto* pSrc, auto* pDst, int len) {
+        for (int n = 0; n < len; ++n) range.store(operation(pSrc[n]), pDst, n);
+    };
+}
+
 template <class T>
 inline constexpr Range rangeOf{std::numeric_limits<T>::min(), std::numeric_limits<T>::max(), sizeof(T)};
 inline constexpr Range range24s{-(1 << 23), (1 << 23) - 1, 3}, range24u{0, (1 << 24) - 1, 3};

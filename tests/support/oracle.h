@@ -9,6 +9,7 @@
 #include <zortypes.h>
 
 #include <algorithm>
+#include <numeric>
 #include <utility>
 #include <vector>
 
@@ -54,6 +55,21 @@ void expectSame(Function function, Oracle oracle, Each each = {}, Lengths length
     compare(many + 64, 2, 6); // several destinations have the same alignment
 }
 
+// The function with its last arguments.
+template <class Function, class... Last>
+auto with(Function function, Last... last)
+{
+    return [=](auto... first) { return function(first..., last...); };
+}
+
+template <class T>
+std::vector<T> everyValue()
+{
+    std::vector<T> all(std::size_t{1} << 8 * sizeof(T));
+    std::iota(all.begin(), all.end(), std::numeric_limits<T>::min());
+    return all;
+}
+
 // The plain form of what makes one element of each.
 template <class Operation>
 auto elementwise(Operation operation)
@@ -78,6 +94,15 @@ void expectValues(const std::vector<S>& src, Function function, Oracle oracle, i
                                  << +want[n * size] << ", control " << std::hex << control << ", "
                                  << __PRETTY_FUNCTION__;
     }
+}
+
+// What makes one element of each, for values that matter and at every length.
+template <class S, class D, class Function, class Operation>
+void expectAll(const std::vector<S>& src, Function function, Operation operation,
+               Lengths lengths = Lengths::smallAndLong)
+{
+    expectValues<D>(src, function, elementwise(operation));
+    expectSame<S, D>(function, elementwise(operation), {}, lengths);
 }
 
 // Bits, but for what is not a number: which of two is left is nobody's promise.

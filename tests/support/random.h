@@ -13,6 +13,11 @@ namespace zors::test {
 
 using Random = std::mt19937_64;
 
+inline int below(int limit, Random& random)
+{
+    return static_cast<int>(random() % static_cast<std::uint64_t>(limit));
+}
+
 template <class T>
 concept Complex = requires
 {

@@ -1,12 +1,8 @@
-#include "support/control.h"
 #include "support/oracle.h"
 
 #include <zors.h>
 
-#include <algorithm>
-#include <array>
 #include <cmath>
-#include <numeric>
 
 namespace {
 
@@ -59,25 +55,11 @@ Zor8u encoded(const Law& law, double sample)
     return codeOf(law, intervalOf(law, std::nextafter(-sample, 0)), false);
 }
 
-std::array<Zor8u, 256> allCodes()
-{
-    std::array<Zor8u, 256> all;
-    std::iota(all.begin(), all.end(), Zor8u{0});
-    return all;
-}
-
 template <class T>
 void expectDecodes(const Law& law, ZorStatus (*function)(const Zor8u*, T*, int))
 {
-    const auto codes = allCodes();
-    for (const unsigned control : controls) {
-        T got[256];
-        underControl(control, [&] { function(codes.data(), got, 256); });
-        for (const Zor8u code : codes) EXPECT_EQ(got[code], decoded(law, code)) << int{code};
-    }
-    expectSame<Zor8u, T>(function, [&](auto* pSrc, auto* pDst, int len) {
-        for (int n = 0; n < len; ++n)
-            pDst[n] = static_cast<T>(std::copysign(decoded(law, pSrc[n]), pSrc[n] & 0x80 ? 1 : -1));
+    expectAll<Zor8u, T>(everyValue<Zor8u>(), function, [=](Zor8u code) {
+        return static_cast<T>(std::copysign(decoded(law, code), code & 0x80 ? 1 : -1));
     });
 }
 
@@ -99,28 +81,8 @@ using Encoder = ZorStatus (*)(const T*, Zor8u*, int);
 template <class T>
 void expectEncodes(const Law& law, Encoder<T> function, const std::vector<T>& src)
 {
-    std::vector<Zor8u> want(src.size()), got(src.size());
-    std::transform(src.begin(), src.end(), want.begin(),
-                   [&](T v) { return encoded(law, static_cast<double>(v)); });
-    for (const unsigned control : controls) {
-        underControl(control, [&] { function(src.data(), got.data(), static_cast<int>(src.size())); });
-        compared(static_cast<int>(src.size()));
-        for (std::size_t n = 0; n < src.size(); ++n)
-            ASSERT_EQ(got[n], want[n]) << src[n] << ", control " << std::hex << control;
-    }
-    expectSame<T, Zor8u>(
-        function,
-        [&](auto* pSrc, auto* pDst, int len) {
-            for (int n = 0; n < len; ++n) pDst[n] = encoded(law, static_cast<double>(pSrc[n]));
-        },
-        {}, Lengths::small);
-}
-
-std::vector<Zor16s> allSamples()
-{
-    std::vector<Zor16s> all(65536);
-    std::iota(all.begin(), all.end(), std::numeric_limits<Zor16s>::min());
-    return all;
+    const auto code = [=](T sample) { return encoded(law, static_cast<double>(sample)); };
+    expectAll<T, Zor8u>(src, function, code, Lengths::small);
 }
 
 // On and beside every decision value and every decoded one, and beyond them.
@@ -141,8 +103,8 @@ std::vector<Zor32f> floatsBetween(const Law& law)
 
 TEST(Companding, Compresses)
 {
-    expectEncodes(aLaw, zorsLinToALaw_16s8u, allSamples());
-    expectEncodes(muLaw, zorsLinToMuLaw_16s8u, allSamples());
+    expectEncodes(aLaw, zorsLinToALaw_16s8u, everyValue<Zor16s>());
+    expectEncodes(muLaw, zorsLinToMuLaw_16s8u, everyValue<Zor16s>());
     expectEncodes(aLaw, zorsLinToALaw_32f8u, floatsBetween(aLaw));
     expectEncodes(muLaw, zorsLinToMuLaw_32f8u, floatsBetween(muLaw));
 }
@@ -150,7 +112,7 @@ TEST(Companding, Compresses)
 template <class T>
 void expectInverse(Encoder<T> encode, ZorStatus (*decode)(const Zor8u*, T*, int), int negativeZero)
 {
-    const auto codes = allCodes();
+    const auto codes = everyValue<Zor8u>();
     T samples[256];
     Zor8u back[256];
     ASSERT_EQ(decode(codes.data(), samples, 256), zorStsOk);
@@ -173,18 +135,11 @@ void expectConverts(const Law& from, const Law& to, ZorStatus (*function)(const 
         return law.fullScale / std::pow(10, law.fullScaleLevel / 20);
     };
     const double ratio = amplitude(to) / amplitude(from);
-    const auto codes = allCodes();
-    std::array<Zor8u, 256> converted;
-    for (const Zor8u code : codes)
-        converted[code] = codeOf(to, intervalOf(to, ratio * from.output(numberOf(from, code))), code & 0x80);
-    for (const unsigned control : controls) {
-        Zor8u got[256];
-        underControl(control, [&] { function(codes.data(), got, 256); });
-        for (const Zor8u code : codes) EXPECT_EQ(got[code], converted[code]) << int{code};
-    }
-    expectSame<Zor8u, Zor8u>(function, [&](auto* pSrc, auto* pDst, int len) {
-        std::transform(pSrc, pSrc + len, pDst, [&](Zor8u code) { return converted[code]; });
-    });
+    std::vector<Zor8u> converted;
+    for (const Zor8u code : everyValue<Zor8u>())
+        converted.push_back(
+            codeOf(to, intervalOf(to, ratio * from.output(numberOf(from, code))), code & 0x80));
+    expectAll<Zor8u, Zor8u>(everyValue<Zor8u>(), function, [&](Zor8u code) { return converted[code]; });
 }
 
 TEST(Companding, ConvertsBetweenTheLaws)
@@ -194,13 +149,8 @@ TEST(Companding, ConvertsBetweenTheLaws)
     // Entries of the Recommendation's conversion tables.
     Zor8u codes[] = {0xff, 0xfe, 0xfd, 0x80, 0x00, codeOf(muLaw, 48, true), codeOf(muLaw, 80, true)};
     ASSERT_EQ(zorsMuLawToALaw_8u(codes, codes, 7), zorStsOk);
-    EXPECT_EQ(codes[0], codeOf(aLaw, 0, true));
-    EXPECT_EQ(codes[1], codeOf(aLaw, 0, true));
-    EXPECT_EQ(codes[2], codeOf(aLaw, 1, true));
-    EXPECT_EQ(codes[3], codeOf(aLaw, 127, true));
-    EXPECT_EQ(codes[4], codeOf(aLaw, 127, false));
-    EXPECT_EQ(codes[5], codeOf(aLaw, 45, true));
-    EXPECT_EQ(codes[6], codeOf(aLaw, 80, true));
+    constexpr int numbers[] = {0, 0, 1, 127, 127, 45, 80};
+    for (int n = 0; n < 7; ++n) EXPECT_EQ(codes[n], codeOf(aLaw, numbers[n], n != 4)) << n;
 }
 
 } // namespace

@@ -1,14 +1,10 @@
 // Conversions that widen, and integers to floats.
-#include "support/control.h"
 #include "support/oracle.h"
 
 #include <zors.h>
 
-#include <algorithm>
 #include <climits>
 #include <cmath>
-#include <limits>
-#include <numeric>
 
 namespace {
 
@@ -17,20 +13,16 @@ using namespace zors::test;
 template <class S, class D>
 using Conversion = ZorStatus (*)(const S*, D*, int);
 
+constexpr auto cast = []<class S, class D>(Conversion<S, D>) {
+    return [](S v) { return static_cast<D>(v); };
+};
+
 template <class S, class D>
 void expectCast(Conversion<S, D> function)
 {
     for (const unsigned control : controls)
-        expectSame<S, D>(
-            [=](const S* pSrc, D* pDst, int len) {
-                ZorStatus status = zorStsOk;
-                underControl(control, [&] { status = function(pSrc, pDst, len); });
-                return status;
-            },
-            [](const S* pSrc, D* pDst, int len) {
-                for (int n = 0; n < len; ++n) pDst[n] = static_cast<D>(pSrc[n]);
-            },
-            {}, control == standardControl ? Lengths::smallAndLong : Lengths::small);
+        expectSame<S, D>(under(control, function), elementwise(cast(function)), {},
+                         control == standardControl ? Lengths::smallAndLong : Lengths::small);
 }
 
 TEST(Widening, IntegersKeepTheirValues)
@@ -64,13 +56,7 @@ TEST(Rounding, TiesOfDoubles)
     for (const Zor64f v : {1.0, 0x1p-126, 0x1p-149, 0x1p-150, 0x1.8p-149, 0x1.fffffep127, 0x1.ffffffp127})
         for (const Zor64f ulps : {0.0, 0x1p-24, 0x1p-23, 0x1.8p-23, 0x1p-52, -0x1p-53, 0x1.000001p-24})
             src.insert(src.end(), {v * (1 + ulps), -v * (1 + ulps)});
-    std::vector<Zor32f> got(src.size()), want(src.size());
-    std::transform(src.begin(), src.end(), want.begin(), [](Zor64f v) { return static_cast<Zor32f>(v); });
-    for (const unsigned control : controls) {
-        underControl(control,
-                     [&] { zorsConvert_64f32f(src.data(), got.data(), static_cast<int>(src.size())); });
-        EXPECT_EQ(std::memcmp(got.data(), want.data(), got.size() * sizeof got[0]), 0) << std::hex << control;
-    }
+    expectValues<Zor32f>(src, zorsConvert_64f32f, elementwise(cast(zorsConvert_64f32f)));
 }
 
 template <class S, class D>
@@ -105,29 +91,22 @@ constexpr int scaleFactors[] = {0,    1,    -1,   7,    16,    31,    100,   -96
 template <class S, class D>
 void expectScales(ZorStatus (*function)(const S*, D*, int, int), const std::vector<S>& src)
 {
-    std::vector<D> got(src.size()), want(src.size());
-    const int len = static_cast<int>(src.size());
-    for (const int scaleFactor : scaleFactors) {
+    const auto scaled = [](int scaleFactor) {
         const int exponent = -std::clamp(scaleFactor, -3000, 3000);
-        std::transform(src.begin(), src.end(), want.begin(),
-                       [=](S v) { return static_cast<D>(std::ldexp(static_cast<double>(v), exponent)); });
-        for (const unsigned control : controls) {
-            ZorStatus status = zorStsOk;
-            underControl(control, [&] { status = function(src.data(), got.data(), len, scaleFactor); });
-            ASSERT_EQ(status, zorStsOk);
-            compared(len);
-            ASSERT_EQ(std::memcmp(got.data(), want.data(), got.size() * sizeof got[0]), 0)
-                << "scale factor " << scaleFactor << ", control " << std::hex << control;
-        }
+        return elementwise([=](S v) { return static_cast<D>(std::ldexp(static_cast<double>(v), exponent)); });
+    };
+    for (const int scaleFactor : scaleFactors) {
+        SCOPED_TRACE(scaleFactor);
+        expectValues<D>(src, with(function, scaleFactor), scaled(scaleFactor));
     }
+    for (const int scaleFactor : {3, 150}) // 150: by way of doubles
+        expectSame<S, D>(with(function, scaleFactor), scaled(scaleFactor));
 }
 
 TEST(Scaling, IntegersToFloatsWithOneRounding)
 {
-    std::vector<Zor16s> words(65536);
-    std::iota(words.begin(), words.end(), std::numeric_limits<Zor16s>::min());
-    expectScales(zorsConvert_16s32f_Sfs, words);
-    expectScales(zorsConvert_16s64f_Sfs, words);
+    expectScales(zorsConvert_16s32f_Sfs, everyValue<Zor16s>());
+    expectScales(zorsConvert_16s64f_Sfs, everyValue<Zor16s>());
 
     std::vector<Zor32s> all{INT_MIN, INT_MIN + 1, INT_MAX, INT_MAX - 1, 0};
     for (int bit = 0; bit < 31; ++bit)
@@ -141,25 +120,6 @@ TEST(Scaling, IntegersToFloatsWithOneRounding)
     for (int i = 0; i < 1000; ++i) all.push_back(static_cast<Zor32s>(random()));
     expectScales(zorsConvert_32s32f_Sfs, all);
     expectScales(zorsConvert_32s64f_Sfs, all);
-}
-
-TEST(Scaling, EveryLengthAndOffset)
-{
-    const auto scaled = [](auto function, int scaleFactor) {
-        return [=](auto* pSrc, auto* pDst, int len) { return function(pSrc, pDst, len, scaleFactor); };
-    };
-    const auto eighth = [](auto* pSrc, auto* pDst, int len) {
-        for (int n = 0; n < len; ++n)
-            pDst[n] = static_cast<std::remove_reference_t<decltype(*pDst)>>(pSrc[n]) / 8;
-    };
-    expectSame<Zor16s, Zor32f>(scaled(zorsConvert_16s32f_Sfs, 3), eighth);
-    expectSame<Zor32s, Zor32f>(scaled(zorsConvert_32s32f_Sfs, 3), eighth);
-    expectSame<Zor16s, Zor64f>(scaled(zorsConvert_16s64f_Sfs, 3), eighth);
-    expectSame<Zor32s, Zor64f>(scaled(zorsConvert_32s64f_Sfs, 3), eighth);
-    // By way of doubles.
-    expectSame<Zor32s, Zor32f>(scaled(zorsConvert_32s32f_Sfs, 150), [](auto* pSrc, auto* pDst, int len) {
-        for (int n = 0; n < len; ++n) pDst[n] = static_cast<Zor32f>(pSrc[n] * 0x1p-150);
-    });
 }
 
 } // namespace

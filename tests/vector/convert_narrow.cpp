@@ -4,9 +4,7 @@
 
 #include <zors.h>
 
-#include <algorithm>
 #include <climits>
-#include <numeric>
 
 namespace {
 
@@ -36,53 +34,40 @@ using Narrowing = ZorStatus (*)(const S*, D*, int, int);
 template <class S>
 std::vector<S> awkward()
 {
+    if constexpr (sizeof(S) == 2) return everyValue<S>();
     std::vector<S> all;
-    if constexpr (sizeof(S) == 2) {
-        all.resize(65536);
-        std::iota(all.begin(), all.end(), std::numeric_limits<S>::min());
-    } else {
-        using U = std::uint64_t; // wraps, and so may its low bits
-        Random random;
-        for (int bit = 0; bit < std::numeric_limits<S>::digits; ++bit) {
-            const U power = U{1} << bit;
-            for (const U odd : {U{1}, U{3}, U{5}, U{255}, U{256}})
-                for (const U more : {U{0}, U{1}, U{2}})
-                    for (const U v : {power * odd + more, power * odd - more})
-                        all.insert(all.end(), {static_cast<S>(v), static_cast<S>(U{0} - v)});
-            all.push_back(static_cast<S>(random() >> bit));
-            all.push_back(static_cast<S>(random() << bit));
-        }
-        all.insert(all.end(), {std::numeric_limits<S>::min(), std::numeric_limits<S>::max(), 0});
+    using U = std::uint64_t; // wraps, and so may its low bits
+    Random random;
+    for (int bit = 0; bit < std::numeric_limits<S>::digits; ++bit) {
+        const U power = U{1} << bit;
+        for (const U odd : {U{1}, U{3}, U{5}, U{255}, U{256}})
+            for (const U more : {U{0}, U{1}, U{2}})
+                for (const U v : {power * odd + more, power * odd - more})
+                    all.insert(all.end(), {static_cast<S>(v), static_cast<S>(U{0} - v)});
+        all.push_back(static_cast<S>(random() >> bit));
+        all.push_back(static_cast<S>(random() << bit));
     }
+    all.insert(all.end(), {std::numeric_limits<S>::min(), std::numeric_limits<S>::max(), 0});
     return all;
 }
 
 template <class S, class D>
 void expectNarrows(Narrowing<S, D> function, Range range)
 {
-    const auto oracle = [=](int scaleFactor) {
-        return [=](const S* pSrc, D* pDst, int len) {
-            for (int n = 0; n < len; ++n) range.store(scaled(pSrc[n], scaleFactor, range), pDst, n);
-        };
-    };
     const int parts = range.parts<D>();
     const std::vector<S> src = awkward<S>();
-    std::vector<D> got(src.size() * static_cast<std::size_t>(parts)), want = got;
-    const int len = static_cast<int>(src.size());
+    const auto oracle = [=](int scaleFactor) {
+        return stored(range, [=](S v) { return scaled(v, scaleFactor, range); });
+    };
     std::vector<int> factors(140);
     std::iota(factors.begin(), factors.end(), -70);
     factors.insert(factors.end(), {INT_MIN, INT_MIN + 1, -256, 256, INT_MAX});
     for (const int scaleFactor : factors) {
-        ASSERT_EQ(function(src.data(), got.data(), len, scaleFactor), zorStsOk);
-        oracle(scaleFactor)(src.data(), want.data(), len);
-        compared(len);
-        const auto at = std::mismatch(got.begin(), got.end(), want.begin()).first - got.begin();
-        ASSERT_EQ(at, static_cast<std::ptrdiff_t>(got.size()))
-            << src[static_cast<std::size_t>(at / parts)] << ", scale factor " << scaleFactor;
+        SCOPED_TRACE(scaleFactor);
+        expectValues<D>(src, with(function, scaleFactor), oracle(scaleFactor), parts);
     }
     for (const int scaleFactor : {0, 9, -3})
-        expectSame<S, D>([=](auto* pSrc, auto* pDst, int n) { return function(pSrc, pDst, n, scaleFactor); },
-                         oracle(scaleFactor), {1, parts},
+        expectSame<S, D>(with(function, scaleFactor), oracle(scaleFactor), {1, parts},
                          scaleFactor == 9 ? Lengths::smallAndLong : Lengths::small);
 }
 
@@ -97,17 +82,8 @@ TEST(Narrowing, ScalesRoundsAndSaturates)
 
 TEST(Narrowing, SaturatesWithoutScaling)
 {
-    const auto plain = [](const Zor32s* pSrc, Zor16s* pDst, int len, int) {
-        return zorsConvert_32s16s(pSrc, pDst, len);
-    };
-    const std::vector<Zor32s> src = awkward<Zor32s>();
-    std::vector<Zor16s> got(src.size());
-    ASSERT_EQ(plain(src.data(), got.data(), static_cast<int>(src.size()), 0), zorStsOk);
-    for (std::size_t n = 0; n < src.size(); ++n)
-        ASSERT_EQ(got[n], std::clamp(src[n], -32768, 32767)) << src[n];
-    expectSame<Zor32s, Zor16s>(zorsConvert_32s16s, [](const Zor32s* pSrc, Zor16s* pDst, int len) {
-        for (int n = 0; n < len; ++n) pDst[n] = static_cast<Zor16s>(std::clamp(pSrc[n], -32768, 32767));
-    });
+    expectAll<Zor32s, Zor16s>(awkward<Zor32s>(), zorsConvert_32s16s,
+                              [](Zor32s v) { return static_cast<Zor16s>(std::clamp(v, -32768, 32767)); });
 }
 
 } // namespace

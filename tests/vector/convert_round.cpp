@@ -1,12 +1,9 @@
 // Floats to integers.
-#include "support/control.h"
 #include "support/integers.h"
 #include "support/oracle.h"
 
 #include <zors.h>
 
-#include <algorithm>
-#include <cfloat>
 #include <climits>
 #include <cmath>
 
@@ -60,70 +57,39 @@ std::vector<S> awkward(Range range)
 template <class S, class D>
 void expectRounds(Conversion<S, D> function, Range range)
 {
-    SCOPED_TRACE(__PRETTY_FUNCTION__);
     const std::vector<S> values = awkward<S>(range);
-    const int len = static_cast<int>(values.size()), parts = range.parts<D>();
-    std::vector<D> got(values.size() * static_cast<std::size_t>(parts)), want = got;
+    const int parts = range.parts<D>();
+    const auto oracle = [=](ZorRoundMode mode, int scaleFactor) {
+        return stored(range, [=](S v) { return rounded(v, mode, scaleFactor, range); });
+    };
     for (const int scaleFactor : {0,    1,     -1,   5,     -7,    15,   24,    -31,     63,     100,  120,
                                   121,  -120,  -121, -149,  150,   240,  241,   -240,    -241,   -999, 1000,
                                   1001, -1001, 1030, -1074, -1100, 2001, -2001, INT_MIN, INT_MAX}) {
         // At the boundaries after the scaling, as far as the type has such values.
         std::vector<S> scaledUp = values;
         for (S& v : scaledUp) v = std::ldexp(v, std::clamp(scaleFactor, -3000, 3000));
-        for (const std::vector<S>& all : {values, scaledUp})
-            for (const ZorRoundMode mode : modes) {
-                for (int n = 0; n < len; ++n)
-                    range.store(rounded(all[static_cast<std::size_t>(n)], mode, scaleFactor, range),
-                                want.data(), n);
-                for (const unsigned control : controls) {
-                    ZorStatus status = zorStsOk;
-                    underControl(control,
-                                 [&] { status = function(all.data(), got.data(), len, mode, scaleFactor); });
-                    ASSERT_EQ(status, zorStsOk);
-                    compared(len);
-                    const auto at = std::mismatch(got.begin(), got.end(), want.begin()).first - got.begin();
-                    ASSERT_EQ(at, static_cast<std::ptrdiff_t>(got.size()))
-                        << all[static_cast<std::size_t>(at / parts)] << ", mode " << mode << ", scale factor "
-                        << scaleFactor << ", control " << std::hex << control;
-                }
-            }
+        for (const ZorRoundMode mode : modes) {
+            SCOPED_TRACE(testing::Message() << "mode " << mode << ", scale factor " << scaleFactor);
+            for (const std::vector<S>& all : {values, scaledUp})
+                expectValues<D>(all, with(function, mode, scaleFactor), oracle(mode, scaleFactor), parts);
+        }
     }
     for (const ZorRoundMode mode : modes)
-        expectSame<S, D>([=](auto* pSrc, auto* pDst, int n) { return function(pSrc, pDst, n, mode, -1); },
-                         [=](auto* pSrc, auto* pDst, int n) {
-                             for (int i = 0; i < n; ++i)
-                                 range.store(rounded(pSrc[i], mode, -1, range), pDst, i);
-                         },
-                         {1, parts}, mode == zorRndNear ? Lengths::smallAndLong : Lengths::small);
+        expectSame<S, D>(with(function, mode, -1), oracle(mode, -1), {1, parts},
+                         mode == zorRndNear ? Lengths::smallAndLong : Lengths::small);
 }
 
-TEST(FloatToInteger, Bytes)
+TEST(FloatToInteger, RoundsAndSaturates)
 {
     expectRounds(zorsConvert_32f8s_Sfs, rangeOf<Zor8s>);
     expectRounds(zorsConvert_32f8u_Sfs, rangeOf<Zor8u>);
-}
-
-TEST(FloatToInteger, Words)
-{
     expectRounds(zorsConvert_32f16s_Sfs, rangeOf<Zor16s>);
     expectRounds(zorsConvert_32f16u_Sfs, rangeOf<Zor16u>);
     expectRounds(zorsConvert_64f16s_Sfs, rangeOf<Zor16s>);
-}
-
-TEST(FloatToInteger, Packed)
-{
     expectRounds(zorsConvert_32f24s_Sfs, range24s);
     expectRounds(zorsConvert_32f24u_Sfs, range24u);
-}
-
-TEST(FloatToInteger, DoubleWords)
-{
     expectRounds(zorsConvert_32f32s_Sfs, rangeOf<Zor32s>);
     expectRounds(zorsConvert_64f32s_Sfs, rangeOf<Zor32s>);
-}
-
-TEST(FloatToInteger, QuadWords)
-{
     expectRounds(zorsConvert_64f64s_Sfs, rangeOf<Zor64s>);
 }
 
@@ -134,15 +100,13 @@ TEST(FloatToInteger, ValuesOfTheDefinition)
         EXPECT_EQ(zorsConvert_32f16s_Sfs(&value, &result, 1, mode, scaleFactor), zorStsOk);
         return result;
     };
-    EXPECT_EQ(convert(2.5f, zorRndZero, 0), 2);
-    EXPECT_EQ(convert(2.5f, zorRndNear, 0), 2);
-    EXPECT_EQ(convert(2.5f, zorRndFinancial, 0), 3);
-    EXPECT_EQ(convert(-2.5f, zorRndZero, 0), -2);
-    EXPECT_EQ(convert(-2.5f, zorRndNear, 0), -2);
-    EXPECT_EQ(convert(-2.5f, zorRndFinancial, 0), -3);
-    EXPECT_EQ(convert(1.5f, zorRndZero, 1), 0);
-    EXPECT_EQ(convert(1.5f, zorRndNear, 1), 1);
-    EXPECT_EQ(convert(1.5f, zorRndFinancial, 1), 1);
+    for (const Zor32f sign : {1.0f, -1.0f}) {
+        EXPECT_EQ(convert(sign * 2.5f, zorRndZero, 0), sign * 2);
+        EXPECT_EQ(convert(sign * 2.5f, zorRndNear, 0), sign * 2);
+        EXPECT_EQ(convert(sign * 2.5f, zorRndFinancial, 0), sign * 3);
+        EXPECT_EQ(convert(sign * 1.5f, zorRndZero, 1), 0);
+        EXPECT_EQ(convert(sign * 1.5f, zorRndNear, 1), sign);
+    }
     for (const ZorRoundMode mode : modes) EXPECT_EQ(convert(40000, mode, 0), 32767);
 }
 
