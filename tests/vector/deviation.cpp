@@ -1,7 +1,5 @@
 #include "reduction.h"
 
-#include <cmath>
-
 namespace zors::test {
 namespace {
 
@@ -45,21 +43,23 @@ void expectRoot(const ExactMoments& m, int len, int scaleFactor, R result)
         << len << " scale " << scaleFactor << ": " << result;
 }
 
-void expectScaled(const Zor16s* p, int len, int scaleFactor)
+// Mean and deviation of all members of a type.
+template <class R>
+void expectBoth(ZorStatus (*both)(const Zor16s*, int, R*, R*, int),
+                ZorStatus (*alone)(const Zor16s*, int, R*, int), const Zor16s* p, int len, int scaleFactor)
 {
     const ExactMoments m = momentsOf(p, len);
-    Zor16s mean = 0, deviation = 0, alone = 0;
-    Zor32s wideMean = 0, wideDeviation = 0, wideAlone = 0;
-    ASSERT_EQ(zorsMeanStdDev_16s_Sfs(p, len, &mean, &deviation, scaleFactor), zorStsOk);
-    ASSERT_EQ(zorsMeanStdDev_16s32s_Sfs(p, len, &wideMean, &wideDeviation, scaleFactor), zorStsOk);
-    ASSERT_EQ(zorsStdDev_16s_Sfs(p, len, &alone, scaleFactor), zorStsOk);
-    ASSERT_EQ(zorsStdDev_16s32s_Sfs(p, len, &wideAlone, scaleFactor), zorStsOk);
-    EXPECT_EQ(mean, scaledFraction<Zor16s>(m.sum, len, scaleFactor)) << len << " scale " << scaleFactor;
-    EXPECT_EQ(wideMean, scaledFraction<Zor32s>(m.sum, len, scaleFactor)) << len << " scale " << scaleFactor;
+    R mean = 0, deviation = 0;
+    ASSERT_EQ(both(p, len, &mean, &deviation, scaleFactor), zorStsOk);
+    EXPECT_EQ(mean, scaledFraction<R>(m.sum, len, scaleFactor)) << len << " scale " << scaleFactor;
     expectRoot(m, len, scaleFactor, deviation);
-    expectRoot(m, len, scaleFactor, wideDeviation);
-    EXPECT_EQ(alone, deviation);
-    EXPECT_EQ(wideAlone, wideDeviation);
+    EXPECT_EQ(reduced(alone, p, len, scaleFactor), deviation);
+}
+
+void expectScaled(const Zor16s* p, int len, int scaleFactor)
+{
+    expectBoth(zorsMeanStdDev_16s_Sfs, zorsStdDev_16s_Sfs, p, len, scaleFactor);
+    expectBoth(zorsMeanStdDev_16s32s_Sfs, zorsStdDev_16s32s_Sfs, p, len, scaleFactor);
 }
 
 TEST(IntegerDeviation, ExactAtEveryLengthAndScale)
@@ -75,14 +75,10 @@ TEST(IntegerDeviation, ExactAtEveryLengthAndScale)
 // Four elements -k, -k, k, k + d reach ties and their neighbours; the ends of the type reach the largest squares.
 TEST(IntegerDeviation, AtTiesAndAtTheEndsOfTheType)
 {
-    const Zor16s tie[] = {0, 3, 3, 3}; // 3 / 2
-    Zor16s deviation = 0;
+    const Zor16s tie[] = {0, 3, 3, 3}, lower[] = {0, 1, 1, 1}; // 3 / 2, 1 / 2
     inEveryRoundingMode([&] {
-        EXPECT_EQ(zorsStdDev_16s_Sfs(tie, 4, &deviation, 0), zorStsOk);
-        EXPECT_EQ(deviation, 2);
-        const Zor16s lower[] = {0, 1, 1, 1}; // 1 / 2
-        EXPECT_EQ(zorsStdDev_16s_Sfs(lower, 4, &deviation, 0), zorStsOk);
-        EXPECT_EQ(deviation, 0);
+        EXPECT_EQ(reduced(zorsStdDev_16s_Sfs, tie, 4, 0), 2);
+        EXPECT_EQ(reduced(zorsStdDev_16s_Sfs, lower, 4, 0), 0);
     });
     for (int k = 1; k < 2000; ++k)
         for (int d = -1; d <= 1; ++d) {
@@ -100,7 +96,7 @@ TEST(IntegerDeviation, AtTiesAndAtTheEndsOfTheType)
 template <class T>
 std::vector<T> normal(std::size_t count)
 {
-    std::mt19937_64 bits(count);
+    Random bits(count);
     std::normal_distribution<double> distribution(3, 20);
     std::vector<T> v(count);
     for (T& e : v) e = static_cast<T>(distribution(bits));
@@ -138,65 +134,51 @@ void expectDeviation(const T* p, int len, T result, Formula roundings)
     ASSERT_LE(std::fabs(result - exact), radicand / exact + last * exact) << len;
 }
 
-TEST(FloatingDeviation, StaysWithinTheBoundOfItsSums)
+template <class T>
+void expectWithinBound(ZorStatus (*both)(const T*, int, T*, T*), auto alone)
 {
-    const auto single = normal<Zor32f>(longest);
-    const auto wide = normal<Zor64f>(longest);
+    const auto v = normal<T>(longest);
     eachLength([&](std::size_t place, int len) {
         if (len < 2) return;
-        Zor32f mean = 0, deviation = 0, alone = 0, fast = 0;
-        const Zor32f* p = single.data() + place;
-        const auto precise = [](int n) { return (n / 16 + 5) * 0x1p-53L; };
-        ASSERT_EQ(zorsMeanStdDev_32f(p, len, &mean, &deviation), zorStsOk);
-        ASSERT_EQ(zorsStdDev_32f(p, len, &alone, ZOR_ALG_PRECISION), zorStsOk);
-        ASSERT_EQ(zorsStdDev_32f(p, len, &fast, ZOR_ALG_SPEED), zorStsOk);
-        ASSERT_EQ(alone, deviation);
-        expectDeviation(p, len, deviation, precise);
-        expectDeviation(p, len, fast, [](int) { return 38 * 0x1p-24L; });
-
-        Zor64f wideMean = 0, wideDeviation = 0, wideAlone = 0;
-        const Zor64f* q = wide.data() + place;
-        ASSERT_EQ(zorsMeanStdDev_64f(q, len, &wideMean, &wideDeviation), zorStsOk);
-        ASSERT_EQ(zorsStdDev_64f(q, len, &wideAlone), zorStsOk);
-        ASSERT_EQ(wideAlone, wideDeviation);
-        expectDeviation(q, len, wideDeviation, precise);
-
-        long double sum = 0, wideSum = 0, magnitudes = 0;
-        for (int i = 0; i < len; ++i) sum += p[i], wideSum += q[i], magnitudes += std::fabs(q[i]);
-        ASSERT_LE(std::fabs(mean - sum / len), 0x1.1p-23L * std::fabs(sum / len) + precise(len)) << len;
-        ASSERT_LE(std::fabs(wideMean - wideSum / len),
-                  precise(len) * magnitudes / len + 0x1p-51L * std::fabs(wideMean))
-            << len;
+        const T* p = v.data() + place;
+        T mean = 0, deviation = 0;
+        const auto roundings = [](int n) { return (n / 16 + 5) * 0x1p-53L; };
+        ASSERT_EQ(both(p, len, &mean, &deviation), zorStsOk);
+        ASSERT_EQ(alone(p, len), deviation);
+        expectDeviation(p, len, deviation, roundings);
+        long double sum = 0, magnitudes = 0;
+        for (int i = 0; i < len; ++i) sum += p[i], magnitudes += std::fabs(p[i]);
+        const long double last = 0x1.1p0L * std::numeric_limits<T>::epsilon() * std::fabs(sum / len);
+        ASSERT_LE(std::fabs(mean - sum / len), roundings(len) * magnitudes / len + last) << len;
     });
+}
+
+TEST(FloatingDeviation, StaysWithinTheBoundOfItsSums)
+{
+    expectWithinBound(zorsMeanStdDev_32f, [](const Zor32f* p, int len) {
+        expectDeviation(p, len, reduced(zorsStdDev_32f, p, len, ZOR_ALG_SPEED),
+                        [](int) { return 38 * 0x1p-24L; });
+        return reduced(zorsStdDev_32f, p, len, ZOR_ALG_PRECISION);
+    });
+    expectWithinBound(zorsMeanStdDev_64f,
+                      [](const Zor64f* p, int len) { return reduced(zorsStdDev_64f, p, len); });
 }
 
 TEST(FloatingDeviation, ValuesOfTheDefinition)
 {
     const Zor32f same[] = {1, 1}, rising[] = {1, 3}, infinite[] = {1, HUGE_VALF}, none[] = {1, NAN, 2};
-    Zor32f deviation = 5;
+    const std::vector<Zor32f> tenths(257, 0.1f);
     for (const ZorHintAlgorithm hint : {ZOR_ALG_ANY, ZOR_ALG_SPEED}) {
-        EXPECT_EQ(zorsStdDev_32f(same, 2, &deviation, hint), zorStsOk);
-        EXPECT_EQ(deviation, 0);
-        EXPECT_EQ(zorsStdDev_32f(rising, 2, &deviation, hint), zorStsOk);
-        EXPECT_EQ(deviation, std::sqrt(2.0f));
-        EXPECT_EQ(zorsStdDev_32f(infinite, 2, &deviation, hint), zorStsOk);
-        EXPECT_TRUE(std::isnan(deviation));
-        EXPECT_EQ(zorsStdDev_32f(none, 3, &deviation, hint), zorStsOk);
-        EXPECT_TRUE(std::isnan(deviation));
+        const auto deviation = [=](const Zor32f* p, int len) {
+            return reduced(zorsStdDev_32f, p, len, hint);
+        };
+        EXPECT_EQ(deviation(same, 2), 0);
+        EXPECT_EQ(deviation(rising, 2), std::sqrt(2.0f));
+        EXPECT_TRUE(std::isnan(deviation(infinite, 2)));
+        EXPECT_TRUE(std::isnan(deviation(none, 3)));
         // Rounding makes the radicand of a constant negative at some of these lengths.
-        const std::vector<Zor32f> tenths(257, 0.1f);
-        for (int len = 2; len <= 257; ++len) {
-            EXPECT_EQ(zorsStdDev_32f(tenths.data(), len, &deviation, hint), zorStsOk);
-            EXPECT_LE(deviation, 1e-3f) << len;
-        }
+        for (int len = 2; len <= 257; ++len) EXPECT_LE(deviation(tenths.data(), len), 1e-3f) << len;
     }
-    deviation = 5;
-    EXPECT_EQ(zorsStdDev_32f(rising, 1, &deviation, ZOR_ALG_ANY), zorStsBadSize);
-    const Zor64f wide[] = {1, 3};
-    Zor64f mean = 5;
-    EXPECT_EQ(zorsMeanStdDev_64f(wide, 1, &mean, nullptr), zorStsNullPointer);
-    EXPECT_EQ(zorsMeanStdDev_64f(wide, 1, nullptr, &mean), zorStsNullPointer);
-    EXPECT_TRUE(deviation == 5 && mean == 5);
 }
 
 } // namespace

@@ -1,16 +1,13 @@
 // What the tests of reductions share: their vectors, and the rule of scaled integer results in plain arithmetic.
 #pragma once
 
-#include "support/count.h"
+#include "support/oracle.h"
 
-#include <gtest/gtest.h>
 #include <zors.h>
 
-#include <algorithm>
 #include <cfenv>
-#include <limits>
-#include <random>
-#include <vector>
+#include <climits>
+#include <cmath>
 
 namespace zors::test {
 
@@ -23,10 +20,20 @@ constexpr int scaleFactors[] = {0,   1,   2,   3,   7,   15,    16,    17,      
 template <class T>
 std::vector<T> integers(std::size_t count)
 {
-    std::mt19937_64 bits(count);
+    Random bits(count);
     std::vector<T> v(count);
     for (T& e : v) e = static_cast<T>(bits() >> (bits() % 64));
     return v;
+}
+
+// What a function of one vector gives.
+template <class T, class R, class... More>
+R reduced(ZorStatus (*function)(const T*, int, R*, More...), const T* p, int len,
+          std::type_identity_t<More>... more)
+{
+    R result{};
+    EXPECT_EQ(function(p, len, &result, more...), zorStsOk);
+    return result;
 }
 
 // Every length up to 257 at odd places, the limits of the blocks, and one long vector.

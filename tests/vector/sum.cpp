@@ -1,27 +1,20 @@
 #include "reduction.h"
 
-#include <cmath>
-
 namespace zors::test {
 namespace {
 
-template <class R, class T>
-R scaledSum(ZorStatus (*f)(const T*, int, R*, int), const T* p, int len, int scaleFactor)
-{
-    R result{};
-    EXPECT_EQ(f(p, len, &result, scaleFactor), zorStsOk);
-    return result;
-}
-
-// The rule of the real 16-bit sums, spelt out in double precision: the factor's biased exponent is limited, and the
-// limits of the product are taken from above first.
-Zor32s sum32ByDoubles(Zor64s sum, int scaleFactor)
+// The rule of the real 16-bit sums, spelt out in double precision: the factor's biased exponent is limited.
+double byDoubles(double v, int scaleFactor)
 {
     const Zor64s exponent = std::clamp<Zor64s>(Zor64s{1023} - scaleFactor, 0, 2047);
-    const double factor = exponent == 0      ? 0
-                          : exponent == 2047 ? HUGE_VAL
-                                             : std::ldexp(1, static_cast<int>(exponent - 1023));
-    double product = static_cast<double>(sum) * factor;
+    if (exponent == 0) return v * 0;
+    return v * (exponent == 2047 ? HUGE_VAL : std::ldexp(1, static_cast<int>(exponent - 1023)));
+}
+
+// The limits of the product are taken from above first.
+Zor32s sum32ByDoubles(Zor64s sum, int, int scaleFactor)
+{
+    double product = byDoubles(static_cast<double>(sum), scaleFactor);
     product = product > 2147483647.0 ? 2147483647.0 : product;
     product = product > -2147483648.0 ? product : -2147483648.0;
     return static_cast<Zor32s>(std::nearbyint(product));
@@ -29,72 +22,59 @@ Zor32s sum32ByDoubles(Zor64s sum, int scaleFactor)
 
 Zor16s mean16ByDoubles(Zor64s sum, int len, int scaleFactor)
 {
-    const Zor64s exponent = std::clamp<Zor64s>(Zor64s{1023} - scaleFactor, 0, 2047);
-    const double factor = exponent == 0      ? 0
-                          : exponent == 2047 ? HUGE_VAL
-                                             : std::ldexp(1, static_cast<int>(exponent - 1023));
-    const double product = static_cast<double>(sum) / len * factor;
+    const double product = byDoubles(static_cast<double>(sum) / len, scaleFactor);
     if (std::isnan(product)) return 0; // the low half of the conversion of what is not a number
     return static_cast<Zor16s>(std::nearbyint(std::clamp(product, -32768.0, 32767.0)));
 }
 
-Zor16s saturated16(Zor32s v)
+template <class R>
+R exactSum(Zor64s sum, int, int scaleFactor)
 {
-    return static_cast<Zor16s>(std::clamp(v, -32768, 32767));
+    return scaledFraction<R>(sum, 1, scaleFactor);
 }
 
-TEST(IntegerSum, Of16Bits)
+template <class R>
+R exactMean(Zor64s sum, int len, int scaleFactor)
 {
-    const auto v = integers<Zor16s>(longest);
-    eachLength([&](std::size_t place, int len) {
-        const Zor16s* p = v.data() + place;
-        Zor64s sum = 0;
-        for (int i = 0; i < len; ++i) sum += p[i];
+    return scaledFraction<R>(sum, len, scaleFactor);
+}
+
+template <Zor32s (*sum)(Zor64s, int, int)>
+Zor16s saturated(Zor64s total, int len, int scaleFactor)
+{
+    return static_cast<Zor16s>(std::clamp(sum(total, len, scaleFactor), -32768, 32767));
+}
+
+// Every part P of a result is the rule's for the sum of these parts of the elements.
+template <class P, class T, class R, class Rule>
+void expectScaled(ZorStatus (*function)(const T*, int, R*, int), Rule rule)
+{
+    constexpr int parts = sizeof(T) / sizeof(P);
+    const auto v = integers<P>(2 * longest);
+    eachLength([&](std::size_t place, int len) { // of pairs, also between two pairs' places
+        const P* p = v.data() + place;
+        Zor64s sums[2] = {};
+        for (int i = 0; i < parts * len; ++i) sums[i % parts] += p[i];
         for (const int s : scaleFactors) {
-            const Zor32s expected = sum32ByDoubles(sum, s);
-            ASSERT_EQ(scaledSum(zorsSum_16s32s_Sfs, p, len, s), expected) << len << " scale " << s;
-            ASSERT_EQ(scaledSum(zorsSum_16s_Sfs, p, len, s), saturated16(expected)) << len << " scale " << s;
-            ASSERT_EQ(scaledSum(zorsMean_16s_Sfs, p, len, s), mean16ByDoubles(sum, len, s))
-                << len << " scale " << s;
+            const R got = reduced(function, reinterpret_cast<const T*>(p), len, s);
+            for (int k = 0; k < parts; ++k) {
+                const auto want = rule(sums[k], len, s);
+                ASSERT_EQ(reinterpret_cast<decltype(&want)>(&got)[k], want) << len << " scale " << s;
+            }
         }
     });
 }
 
-TEST(IntegerSum, Of16BitPairs)
+TEST(IntegerSum, FollowsItsRule)
 {
-    const auto v = integers<Zor16s>(2 * longest);
-    eachLength([&](std::size_t place, int len) {
-        const auto* p = reinterpret_cast<const Zor16sc*>(v.data() + place); // also between two pairs' places
-        Wide re = 0, im = 0;
-        for (int i = 0; i < len; ++i) re += p[i].re, im += p[i].im;
-        for (const int s : scaleFactors) {
-            const Zor32sc wide = scaledSum(zorsSum_16sc32sc_Sfs, p, len, s);
-            ASSERT_EQ(wide.re, scaledFraction<Zor32s>(re, 1, s)) << len << " scale " << s;
-            ASSERT_EQ(wide.im, scaledFraction<Zor32s>(im, 1, s)) << len << " scale " << s;
-            const Zor16sc sum = scaledSum(zorsSum_16sc_Sfs, p, len, s),
-                          mean = scaledSum(zorsMean_16sc_Sfs, p, len, s);
-            ASSERT_EQ(sum.re, saturated16(wide.re));
-            ASSERT_EQ(sum.im, saturated16(wide.im));
-            ASSERT_EQ(mean.re, scaledFraction<Zor16s>(re, len, s)) << len << " scale " << s;
-            ASSERT_EQ(mean.im, scaledFraction<Zor16s>(im, len, s)) << len << " scale " << s;
-        }
-    });
-}
-
-TEST(IntegerSum, Of32Bits)
-{
-    const auto v = integers<Zor32s>(longest);
-    eachLength([&](std::size_t place, int len) {
-        const Zor32s* p = v.data() + place;
-        Wide sum = 0;
-        for (int i = 0; i < len; ++i) sum += p[i];
-        for (const int s : scaleFactors) {
-            ASSERT_EQ(scaledSum(zorsSum_32s_Sfs, p, len, s), scaledFraction<Zor32s>(sum, 1, s))
-                << len << " " << s;
-            ASSERT_EQ(scaledSum(zorsMean_32s_Sfs, p, len, s), scaledFraction<Zor32s>(sum, len, s))
-                << len << " " << s;
-        }
-    });
+    expectScaled<Zor16s>(zorsSum_16s32s_Sfs, sum32ByDoubles);
+    expectScaled<Zor16s>(zorsSum_16s_Sfs, saturated<sum32ByDoubles>);
+    expectScaled<Zor16s>(zorsMean_16s_Sfs, mean16ByDoubles);
+    expectScaled<Zor16s>(zorsSum_16sc32sc_Sfs, exactSum<Zor32s>);
+    expectScaled<Zor16s>(zorsSum_16sc_Sfs, saturated<exactSum<Zor32s>>);
+    expectScaled<Zor16s>(zorsMean_16sc_Sfs, exactMean<Zor16s>);
+    expectScaled<Zor32s>(zorsSum_32s_Sfs, exactSum<Zor32s>);
+    expectScaled<Zor32s>(zorsMean_32s_Sfs, exactMean<Zor32s>);
 }
 
 // The ends of the types fill every accumulator as far as it goes.
@@ -106,12 +86,12 @@ TEST(IntegerSum, OfTheEndsOfTheTypes)
         const Zor32s end32 = low ? INT_MIN : INT_MAX;
         const std::vector<Zor16s> v16(2 * len, end16);
         const std::vector<Zor32s> v32(len, end32);
-        EXPECT_EQ(scaledSum(zorsSum_16s32s_Sfs, v16.data(), 2 * len, 22), end16);
-        EXPECT_EQ(scaledSum(zorsMean_16s_Sfs, v16.data(), 2 * len, 0), end16);
-        EXPECT_EQ(scaledSum(zorsSum_32s_Sfs, v32.data(), len, 21), end32);
-        EXPECT_EQ(scaledSum(zorsMean_32s_Sfs, v32.data(), len, 0), end32);
+        EXPECT_EQ(reduced(zorsSum_16s32s_Sfs, v16.data(), 2 * len, 22), end16);
+        EXPECT_EQ(reduced(zorsMean_16s_Sfs, v16.data(), 2 * len, 0), end16);
+        EXPECT_EQ(reduced(zorsSum_32s_Sfs, v32.data(), len, 21), end32);
+        EXPECT_EQ(reduced(zorsMean_32s_Sfs, v32.data(), len, 0), end32);
         const Zor32sc sum =
-            scaledSum(zorsSum_16sc32sc_Sfs, reinterpret_cast<const Zor16sc*>(v16.data()), len, 21);
+            reduced(zorsSum_16sc32sc_Sfs, reinterpret_cast<const Zor16sc*>(v16.data()), len, 21);
         EXPECT_TRUE(sum.re == end16 && sum.im == end16);
     }
 }
@@ -121,32 +101,23 @@ TEST(IntegerSum, RoundsToEvenAndSaturates)
     const Zor16s big[] = {32767, 32767}, three[] = {1, 2}, five[] = {1, 4}, zero[] = {7, -7},
                  minus[] = {-1, 0};
     inEveryRoundingMode([&] {
-        EXPECT_EQ(scaledSum(zorsSum_16s_Sfs, big, 2, 0), 32767);
-        EXPECT_EQ(scaledSum(zorsSum_16s_Sfs, big, 2, 1), 32767);
-        EXPECT_EQ(scaledSum(zorsSum_16s_Sfs, three, 2, 1), 2);
-        EXPECT_EQ(scaledSum(zorsSum_16s_Sfs, five, 2, 1), 2);
-        EXPECT_EQ(scaledSum(zorsMean_16s_Sfs, three, 2, 0), 2);
-        EXPECT_EQ(scaledSum(zorsMean_16s_Sfs, five, 2, 0), 2);
-        EXPECT_EQ(scaledSum(zorsMean_16s_Sfs, minus, 2, 0), 0);
+        EXPECT_EQ(reduced(zorsSum_16s_Sfs, big, 2, 0), 32767);
+        EXPECT_EQ(reduced(zorsSum_16s_Sfs, big, 2, 1), 32767);
+        EXPECT_EQ(reduced(zorsSum_16s_Sfs, three, 2, 1), 2);
+        EXPECT_EQ(reduced(zorsSum_16s_Sfs, five, 2, 1), 2);
+        EXPECT_EQ(reduced(zorsMean_16s_Sfs, three, 2, 0), 2);
+        EXPECT_EQ(reduced(zorsMean_16s_Sfs, five, 2, 0), 2);
+        EXPECT_EQ(reduced(zorsMean_16s_Sfs, minus, 2, 0), 0);
         const Zor32s thirds[] = {INT_MAX, INT_MAX, INT_MAX - 2};
-        EXPECT_EQ(scaledSum(zorsMean_32s_Sfs, thirds, 3, 0), INT_MAX - 1);
+        EXPECT_EQ(reduced(zorsMean_32s_Sfs, thirds, 3, 0), INT_MAX - 1);
     });
-    for (const int s : {2000, INT_MAX}) {
-        EXPECT_EQ(scaledSum(zorsSum_16s32s_Sfs, big, 2, s), 0);
-        EXPECT_EQ(scaledSum(zorsMean_16s_Sfs, big, 2, s), 0);
-    }
-    for (const int s : {-2000, INT_MIN}) {
-        EXPECT_EQ(scaledSum(zorsSum_16s32s_Sfs, big, 2, s), INT_MAX);
-        EXPECT_EQ(scaledSum(zorsSum_16s32s_Sfs, minus, 2, s), INT_MIN);
-        EXPECT_EQ(scaledSum(zorsMean_16s_Sfs, minus, 2, s), -32768);
-    }
     for (const int s : {-1024, -2000, INT_MIN}) {
-        EXPECT_EQ(scaledSum(zorsSum_16s32s_Sfs, zero, 2, s), INT_MIN);
-        EXPECT_EQ(scaledSum(zorsSum_16s_Sfs, zero, 2, s), -32768);
-        EXPECT_EQ(scaledSum(zorsMean_16s_Sfs, zero, 2, s), 0);
-        EXPECT_EQ(scaledSum(zorsSum_16sc32sc_Sfs, reinterpret_cast<const Zor16sc*>(minus), 1, s).im, 0);
+        EXPECT_EQ(reduced(zorsSum_16s32s_Sfs, zero, 2, s), INT_MIN);
+        EXPECT_EQ(reduced(zorsSum_16s_Sfs, zero, 2, s), -32768);
+        EXPECT_EQ(reduced(zorsMean_16s_Sfs, zero, 2, s), 0);
+        EXPECT_EQ(reduced(zorsSum_16sc32sc_Sfs, reinterpret_cast<const Zor16sc*>(minus), 1, s).im, 0);
     }
-    EXPECT_EQ(scaledSum(zorsSum_16s32s_Sfs, zero, 2, -1023), 0);
+    EXPECT_EQ(reduced(zorsSum_16s32s_Sfs, zero, 2, -1023), 0);
 }
 
 // The pattern that the documentation promises, in plain arithmetic: element n in lane n mod L, the lanes joined by
@@ -177,56 +148,38 @@ std::vector<T> reals(std::size_t count)
     return v;
 }
 
-// Sum, mean and their two roundings, bit for bit.
-template <class T>
-void expectSumAndMean(double total, int len, T sum, T mean)
+// Sum and mean, part by part and bit for bit; the mean is made of the rounded sum.
+template <class P, class T, class... Hint>
+void expectPattern(ZorStatus (*sum)(const T*, int, T*, Hint...),
+                   ZorStatus (*mean)(const T*, int, T*, Hint...))
 {
-    ASSERT_EQ(sum, static_cast<T>(total)) << len;
-    ASSERT_EQ(mean, static_cast<T>(static_cast<double>(static_cast<T>(total)) / len)) << len;
-}
-
-constexpr int whole = INT_MAX / 2;
-
-TEST(FloatingSum, Single)
-{
-    const auto v = reals<Zor32f>(2 * longest);
+    constexpr int parts = sizeof(T) / sizeof(P), whole = INT_MAX / 2;
+    const auto v = reals<P>(2 * longest);
     eachLength([&](std::size_t place, int len) {
-        const Zor32f* p = v.data() + place;
-        const auto* c = reinterpret_cast<const Zor32fc*>(p);
-        for (const ZorHintAlgorithm hint : {0, 1, 2, -1}) {
-            Zor32f sum = 0, mean = 0;
-            Zor32fc sums{}, means{};
-            ASSERT_EQ(zorsSum_32f(p, len, &sum, hint), zorStsOk);
-            ASSERT_EQ(zorsMean_32f(p, len, &mean, hint), zorStsOk);
-            ASSERT_EQ(zorsSum_32fc(c, len, &sums, hint), zorStsOk);
-            ASSERT_EQ(zorsMean_32fc(c, len, &means, hint), zorStsOk);
-            const auto total = [=](const Zor32f* from, int stride) {
-                return hint == ZOR_ALG_SPEED ? patternSum<float>(from, len, stride, 64 / stride, 1024)
-                                             : patternSum<double>(from, len, stride, 32 / stride, whole);
-            };
-            expectSumAndMean(total(p, 1), len, sum, mean);
-            expectSumAndMean(total(p, 2), len, sums.re, means.re);
-            expectSumAndMean(total(p + 1, 2), len, sums.im, means.im);
+        const auto* p = reinterpret_cast<const T*>(v.data() + place);
+        for (const int hint : {0, 1, 2, -1}) {
+            const bool fast = sizeof...(Hint) != 0 && hint == ZOR_ALG_SPEED;
+            const T sums = reduced(sum, p, len, Hint(hint)...), means = reduced(mean, p, len, Hint(hint)...);
+            for (int k = 0; k < parts; ++k) {
+                const P* from = v.data() + place + k;
+                const P total =
+                    static_cast<P>(fast ? patternSum<float>(from, len, parts, 64 / parts, 1024)
+                                        : patternSum<double>(from, len, parts, 32 / parts, whole));
+                ASSERT_EQ(reinterpret_cast<const P*>(&sums)[k], total) << len;
+                ASSERT_EQ(reinterpret_cast<const P*>(&means)[k],
+                          static_cast<P>(static_cast<double>(total) / len))
+                    << len;
+            }
         }
     });
 }
 
-TEST(FloatingSum, Double)
+TEST(FloatingSum, AddsInItsPattern)
 {
-    const auto v = reals<Zor64f>(2 * longest);
-    eachLength([&](std::size_t place, int len) {
-        const Zor64f* p = v.data() + place;
-        const auto* c = reinterpret_cast<const Zor64fc*>(p);
-        Zor64f sum = 0, mean = 0;
-        Zor64fc sums{}, means{};
-        ASSERT_EQ(zorsSum_64f(p, len, &sum), zorStsOk);
-        ASSERT_EQ(zorsMean_64f(p, len, &mean), zorStsOk);
-        ASSERT_EQ(zorsSum_64fc(c, len, &sums), zorStsOk);
-        ASSERT_EQ(zorsMean_64fc(c, len, &means), zorStsOk);
-        expectSumAndMean(patternSum<double>(p, len, 1, 32, whole), len, sum, mean);
-        expectSumAndMean(patternSum<double>(p, len, 2, 16, whole), len, sums.re, means.re);
-        expectSumAndMean(patternSum<double>(p + 1, len, 2, 16, whole), len, sums.im, means.im);
-    });
+    expectPattern<Zor32f>(zorsSum_32f, zorsMean_32f);
+    expectPattern<Zor32f>(zorsSum_32fc, zorsMean_32fc);
+    expectPattern<Zor64f>(zorsSum_64f, zorsMean_64f);
+    expectPattern<Zor64f>(zorsSum_64fc, zorsMean_64fc);
 }
 
 // The error bound that the documentation states, against 64-bit significands.
@@ -237,9 +190,8 @@ TEST(FloatingSum, StaysWithinItsBound)
         const Zor32f* p = v.data() + place;
         long double exact = 0, magnitudes = 0;
         for (int i = 0; i < len; ++i) exact += p[i], magnitudes += std::fabs(p[i]);
-        Zor32f sum = 0, fast = 0;
-        zorsSum_32f(p, len, &sum, ZOR_ALG_ANY);
-        zorsSum_32f(p, len, &fast, ZOR_ALG_SPEED);
+        const Zor32f sum = reduced(zorsSum_32f, p, len, ZOR_ALG_ANY),
+                     fast = reduced(zorsSum_32f, p, len, ZOR_ALG_SPEED);
         const long double precise = (len / 32 + 5) * 0x1p-53L * magnitudes,
                           rounding = 0x1p-24L * std::fabs(exact);
         ASSERT_LE(std::fabs(sum - exact), 1.001L * (precise + rounding)) << len;
@@ -249,18 +201,11 @@ TEST(FloatingSum, StaysWithinItsBound)
 
 TEST(FloatingSum, PreciseWhereSingleIsNot)
 {
-    const Zor32f v[] = {1e8f, 1, -1e8f};
-    Zor32f sum = 0;
-    EXPECT_EQ(zorsSum_32f(v, 3, &sum, ZOR_ALG_ANY), zorStsOk);
-    EXPECT_EQ(sum, 1);
+    const Zor32f v[] = {1e8f, 1, -1e8f}, odd[] = {16777216, 1, 0}, huge[] = {3e38f, 3e38f};
+    EXPECT_EQ(reduced(zorsSum_32f, v, 3, ZOR_ALG_ANY), 1);
     // The sum 2^24 + 1 is rounded before the division: the mean is not the exactly rounded one.
-    const Zor32f odd[] = {16777216, 1, 0};
-    Zor32f mean = 0;
-    EXPECT_EQ(zorsMean_32f(odd, 3, &mean, ZOR_ALG_ANY), zorStsOk);
-    EXPECT_EQ(mean, static_cast<Zor32f>(16777216 / 3.0));
-    const Zor32f huge[] = {3e38f, 3e38f};
-    EXPECT_EQ(zorsSum_32f(huge, 2, &sum, ZOR_ALG_ANY), zorStsOk);
-    EXPECT_EQ(sum, HUGE_VALF);
+    EXPECT_EQ(reduced(zorsMean_32f, odd, 3, ZOR_ALG_ANY), static_cast<Zor32f>(16777216 / 3.0));
+    EXPECT_EQ(reduced(zorsSum_32f, huge, 2, ZOR_ALG_ANY), HUGE_VALF);
 }
 
 } // namespace
