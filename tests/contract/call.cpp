@@ -10,22 +10,22 @@ namespace {
 using test::below;
 
 constexpr std::size_t mostParameters = 12;
-constexpr std::size_t mostBytes = 16 * (mostLength + 64);
+constexpr std::size_t mostBytes = 16 * (longLength + 64);
 
 bool nameHas(const Export& e, std::string_view code)
 {
     return e.name.find(code) != std::string::npos;
 }
 
-// Small enough for a Kaiser window of every length here.
+// Small enough for a Kaiser window of the length.
 template <class T>
-T windowAlpha(Random& random)
+T windowAlpha(int length, Random& random)
 {
-    return static_cast<T>(below(2001, random) - 1000) * T(0.00029);
+    return static_cast<T>(below(2001, random) - 1000) * T(0.074) / static_cast<T>(length);
 }
 
 // Scalars with a meaning get values that exercise it; all others any value of their type.
-void setScalar(const Export& e, const Parameter& p, Value& value, Random& random)
+void setScalar(const Export& e, const Parameter& p, int length, Value& value, Random& random)
 {
     constexpr int factors[] = {0, 1, 2, 3, 7, 15, 16, 31, 40, -1, -2, -8, -31, -40, 2000, -2000};
     if (p.name == "scaleFactor")
@@ -35,9 +35,9 @@ void setScalar(const Export& e, const Parameter& p, Value& value, Random& random
     else if (p.name == "hint")
         value.set(below(3, random));
     else if (p.name == "alpha" && p.size == sizeof(Zor32f))
-        value.set(windowAlpha<Zor32f>(random));
+        value.set(windowAlpha<Zor32f>(length, random));
     else if (p.name == "alpha")
-        value.set(windowAlpha<Zor64f>(random));
+        value.set(windowAlpha<Zor64f>(length, random));
     else if (p.name == "alphaQ15")
         value.set(below(0x8000, random) - 0x4000);
     else if (p.name == "srcBitOffset" || p.name == "dstBitOffset")
@@ -88,7 +88,7 @@ Call::Call(const Export& e, int length, std::uint64_t seed)
         if (p.role == Role::length)
             arguments[i].set(length);
         else if (p.role == Role::scalar)
-            setScalar(e, p, arguments[i], random);
+            setScalar(e, p, length, arguments[i], random);
     }
     for (std::size_t i = 0; i < e.parameters.size(); ++i) {
         const Parameter& p = e.parameters[i];

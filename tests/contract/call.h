@@ -43,7 +43,8 @@ private:
     std::vector<std::byte*> placed_;
 };
 
-constexpr int mostLength = 257;
+// Every length up to one; another takes many steps of the widest loops and several stretches of a window.
+constexpr int mostLength = 257, longLength = 9001;
 
 // How many places in a cache line there are to try for a function's vectors.
 std::size_t variations(const Export& e);

@@ -1,5 +1,5 @@
+#include "simd/shuffle.h"
 #include "simd/bytes24.h"
-#include "simd/complex.h"
 
 #include "support/random.h"
 
@@ -53,26 +53,6 @@ TEST(Shuffle, PermutesInterleavesAndSwaps)
     expectShuffles<std::uint64_t>();
 }
 
-template <int Size, class T>
-void expectReversed()
-{
-    Random random;
-    const auto v = randomLanes<T>(random);
-    const auto from = bitsAs<std::uint8_t>(v), to = bitsAs<std::uint8_t>(reversed<Size>(v));
-    for (int i = 0; i < vectorBytes; ++i)
-        EXPECT_EQ(to[i], from[vectorBytes - Size - i / Size * Size + i % Size])
-            << "byte " << i << " of " << Size;
-}
-
-TEST(Shuffle, ReversesElementsOfEverySize)
-{
-    expectReversed<1, std::uint8_t>();
-    expectReversed<2, std::uint16_t>();
-    expectReversed<4, std::uint32_t>();
-    expectReversed<8, std::uint64_t>();
-    expectReversed<16, std::uint64_t>();
-}
-
 // A place of count elements of three bytes, and what it must not touch.
 template <class At>
 void expect24(At at, int count)
@@ -94,30 +74,6 @@ TEST(Bytes24, LoadsAndStoresThreeBytesALane)
 {
     expect24(Whole<lanes24>{1}, lanes24);
     for (int count = 1; count < lanes24; ++count) expect24(Part<lanes24>{1, count}, count);
-}
-
-template <class At>
-void expectPairs(At at, int count)
-{
-    constexpr int n = lanes<float>;
-    float src[4 * n];
-    alignas(64) float dst[4 * n];
-    for (int i = 0; i < 4 * n; ++i) src[i] = static_cast<float>(i + 1), dst[i] = -1;
-    const auto v = loadPairs(src, at);
-    storePairs(dst, at, v.second, v.first);
-    for (int i = 0; i < 2 * n; ++i) {
-        const bool inside = i >= at.index && i < at.index + count;
-        EXPECT_EQ(dst[2 * i], inside ? src[2 * i + 1] : -1) << i << " of " << count;
-        EXPECT_EQ(dst[2 * i + 1], inside ? src[2 * i] : -1) << i << " of " << count;
-    }
-}
-
-TEST(Complex, LoadsAndStoresPairs)
-{
-    constexpr int n = lanes<float>;
-    expectPairs(Whole<n>{1}, n);
-    expectPairs(Streamed<n>{n}, n);
-    for (int count = 1; count < n; ++count) expectPairs(Part<n>{1, count}, count);
 }
 
 } // namespace

@@ -63,15 +63,4 @@ TEST(BitCopy, NumbersBitsFromTheNamedEnd)
     EXPECT_EQ(dst, 0xfc);
 }
 
-TEST(BitCopy, RefusesNegativeOffsets)
-{
-    for (const CopyBits function : {zorsCopy_1u, zorsCopyLE_1u, zorsCopyBE_1u}) {
-        const Zor8u src = 0xff;
-        Zor8u dst = 0;
-        EXPECT_EQ(function(&src, -1, &dst, 0, 1), zorStsBadSize);
-        EXPECT_EQ(function(&src, 0, &dst, INT_MIN, 1), zorStsBadSize);
-        EXPECT_EQ(dst, 0);
-    }
-}
-
 } // namespace

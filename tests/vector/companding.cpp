@@ -109,24 +109,10 @@ TEST(Companding, Compresses)
     expectEncodes(muLaw, zorsLinToMuLaw_32f8u, floatsBetween(muLaw));
 }
 
-template <class T>
-void expectInverse(Encoder<T> encode, ZorStatus (*decode)(const Zor8u*, T*, int), int negativeZero)
-{
-    const auto codes = everyValue<Zor8u>();
-    T samples[256];
-    Zor8u back[256];
-    ASSERT_EQ(decode(codes.data(), samples, 256), zorStsOk);
-    ASSERT_EQ(encode(samples, back, 256), zorStsOk);
-    for (const Zor8u code : codes)
-        EXPECT_EQ(back[code], code == negativeZero ? code | 0x80 : code) << int{code};
-}
-
 TEST(Companding, EveryCodeDecodesAndEncodesToItself)
 {
-    expectInverse(zorsLinToALaw_16s8u, zorsALawToLin_8u16s, -1);
-    expectInverse(zorsLinToALaw_32f8u, zorsALawToLin_8u32f, -1);
-    expectInverse(zorsLinToMuLaw_16s8u, zorsMuLawToLin_8u16s, 0x7f);
-    expectInverse(zorsLinToMuLaw_32f8u, zorsMuLawToLin_8u32f, 0x7f);
+    for (const Law& law : {aLaw, muLaw})
+        for (int n = 0; n < 128; ++n) EXPECT_EQ(intervalOf(law, law.output(n)), n);
 }
 
 void expectConverts(const Law& from, const Law& to, ZorStatus (*function)(const Zor8u*, Zor8u*, int))

@@ -3,6 +3,7 @@
 
 #include <zors.h>
 
+#include <bit>
 #include <climits>
 #include <cmath>
 
@@ -11,20 +12,6 @@ namespace {
 using namespace zors::test;
 
 constexpr ZorRoundMode modes[] = {zorRndZero, zorRndNear};
-
-std::uint32_t bitsOf(Zor32f v)
-{
-    std::uint32_t bits;
-    std::memcpy(&bits, &v, sizeof bits);
-    return bits;
-}
-
-Zor32f floatOf(std::uint32_t bits)
-{
-    Zor32f v;
-    std::memcpy(&v, &bits, sizeof v);
-    return v;
-}
 
 bool isFinite(Zor16f h)
 {
@@ -35,8 +22,8 @@ Zor32f fromHalf(Zor16f h)
 {
     const int exponent = h >> 10 & 31, fraction = h & 1023;
     if (!isFinite(h))
-        return floatOf((h & 0x8000u) << 16 | 0x7f800000u | (fraction ? 0x400000u : 0) |
-                       static_cast<std::uint32_t>(fraction) << 13);
+        return std::bit_cast<Zor32f>((h & 0x8000u) << 16 | 0x7f800000u | (fraction ? 0x400000u : 0) |
+                                     static_cast<std::uint32_t>(fraction) << 13);
     const double magnitude =
         exponent ? std::ldexp(1024 + fraction, exponent - 25) : std::ldexp(fraction, -24);
     return static_cast<Zor32f>(h & 0x8000 ? -magnitude : magnitude);
@@ -45,7 +32,8 @@ Zor32f fromHalf(Zor16f h)
 // A half counts up with its bits, and so do its units: in the place of the value they are whole numbers.
 Zor16f toHalf(Zor32f v, ZorRoundMode rndMode)
 {
-    const std::uint32_t bits = bitsOf(v), sign = bits >> 16 & 0x8000, payload = bits >> 13 & 0x3ff;
+    const std::uint32_t bits = std::bit_cast<std::uint32_t>(v), sign = bits >> 16 & 0x8000,
+                        payload = bits >> 13 & 0x3ff;
     if (std::isnan(v)) return static_cast<Zor16f>(sign | 0x7e00 | payload);
     if (std::isinf(v)) return static_cast<Zor16f>(sign | 0x7c00);
     const double magnitude = std::fabs(v);
@@ -57,21 +45,18 @@ Zor16f toHalf(Zor32f v, ZorRoundMode rndMode)
         sign | static_cast<std::uint32_t>(std::min(code, rndMode == zorRndZero ? 31743.0 : 31744.0)));
 }
 
-// Every half, what lies between it and the next one, and the neighbours of all these.
+// Every half, what lies between it and the next one, and the neighbours of all these; what is not a number.
 std::vector<Zor32f> aroundHalves()
 {
-    std::vector<Zor32f> all{0x1p-149f,           0x1p-126f,           3e38f,
-                            floatOf(0x7f800001), floatOf(0x7fc00000), floatOf(0x7fffffff),
-                            floatOf(0x7f80a000)};
-    for (const Zor16f h : everyValue<Zor16f>())
-        if (h < 0x8000) {
-            const std::uint32_t bits = bitsOf(fromHalf(h)),
-                                between = bitsOf(fromHalf(h) +
-                                                 (fromHalf(static_cast<Zor16f>(h + 1)) - fromHalf(h)) / 2);
-            for (const std::uint32_t b : {bits, bits + 1, between - 1, between, between + 1})
-                if (isFinite(h)) all.push_back(floatOf(b));
-        }
-    for (const Zor32f v : {65504.0f, 65519.996f, 65520.0f, 65535.996f, 65536.0f, INFINITY}) all.push_back(v);
+    std::vector<Zor32f> all{0x1p-149f, 0x1p-126f, 3e38f, 65519.996f, 65520, 65535.996f, 65536, INFINITY};
+    const auto add = [&](std::uint32_t bits) { all.push_back(std::bit_cast<Zor32f>(bits)); };
+    for (const std::uint32_t bits : {0x7f800001u, 0x7fc00000u, 0x7fffffffu, 0x7f80a000u}) add(bits);
+    for (Zor16f h = 0; isFinite(h); ++h) {
+        const Zor32f v = fromHalf(h), next = isFinite(h + 1) ? fromHalf(h + 1) : 65536;
+        const auto bits = std::bit_cast<std::uint32_t>(v),
+                   between = std::bit_cast<std::uint32_t>(v + (next - v) / 2);
+        for (const std::uint32_t b : {bits, bits + 1, between - 1, between, between + 1}) add(b);
+    }
     const std::size_t count = all.size();
     for (std::size_t i = 0; i < count; ++i) all.push_back(-all[i]);
     return all;
