@@ -141,6 +141,14 @@ void expectDrawn(Draw draw, double (Oracle::*expected)(double, double), Oracle& 
     ASSERT_EQ(got, want) << len;
 }
 
+template <class T>
+std::vector<T> drawn(ZorStatus (*direct)(T*, int, T, T, Zor32u*), int len, T first, T second, Zor32u& seed)
+{
+    std::vector<T> v(static_cast<std::size_t>(len));
+    EXPECT_EQ(direct(v.data(), len, first, second, &seed), zorStsOk);
+    return v;
+}
+
 TEST(Random, KnownAnswers)
 {
     // Over [-2^31, 2^31] a uniform number is the word itself, but for the 14 digits of the factor.
@@ -161,23 +169,20 @@ TEST(Random, KnownAnswers)
     };
     for (const auto& answer : answers) {
         Zor32u seed = answer.seed;
-        std::vector<Zor64f> v(8);
-        ASSERT_EQ(zorsRandUniform_Direct_64f(v.data(), 8, -2147483648.0, 2147483648.0, &seed), zorStsOk);
+        auto v = drawn(zorsRandUniform_Direct_64f, 8, -2147483648.0, 2147483648.0, seed);
         EXPECT_EQ(seed, answer.next);
         for (double& d : v) d = std::round(d);
         EXPECT_EQ(v, answer.words);
     }
 
     Zor32u seed = 12345;
-    std::vector<Zor16s> shorts(8);
-    ASSERT_EQ(zorsRandUniform_Direct_16s(shorts.data(), 8, -1000, 2000, &seed), zorStsOk);
-    EXPECT_EQ(shorts, (std::vector<Zor16s>{-95, 1795, 537, 1712, 1556, 1823, 1469, 1813}));
+    EXPECT_EQ(drawn<Zor16s>(zorsRandUniform_Direct_16s, 8, -1000, 2000, seed),
+              (std::vector<Zor16s>{-95, 1795, 537, 1712, 1556, 1823, 1469, 1813}));
     seed = 12345;
-    ASSERT_EQ(zorsRandGauss_Direct_16s(shorts.data(), 8, 100, 3000, &seed), zorStsOk);
-    EXPECT_EQ(shorts, (std::vector<Zor16s>{1334, -467, 2866, 185, -4514, 1230, -181, -2108}));
+    EXPECT_EQ(drawn<Zor16s>(zorsRandGauss_Direct_16s, 8, 100, 3000, seed),
+              (std::vector<Zor16s>{1334, -467, 2866, 185, -4514, 1230, -181, -2108}));
     seed = 12345;
-    std::vector<Zor64f> normal(9);
-    ASSERT_EQ(zorsRandGauss_Direct_64f(normal.data(), 9, 0.5, 2.0, &seed), zorStsOk);
+    const auto normal = drawn(zorsRandGauss_Direct_64f, 9, 0.5, 2.0, seed);
     EXPECT_EQ(seed, 2750862402u);
     const double expected[] = {1.3224486111003166, 0.12201001898294117, 2.344155736297717,
                                0.5564695053387712, -2.5760276705491303, 1.2535712863081305,
@@ -305,15 +310,14 @@ double distance(std::vector<Zor32f> sample, Distribution distribution)
 
 TEST(Random, Distributions)
 {
-    constexpr int size = 200000;
-    std::vector<Zor32f> v(size);
     for (const Zor32u start : {1u, 20261121u, 0xdeadbeefu}) {
         Zor32u seed = start;
-        ASSERT_EQ(zorsRandUniform_Direct_32f(v.data(), size, -2, 6, &seed), zorStsOk);
-        EXPECT_LT(distance(v, [](double x) { return std::clamp((x + 2) / 8, 0.0, 1.0); }), 1.63);
+        EXPECT_LT(distance(drawn(zorsRandUniform_Direct_32f, 200000, -2.0f, 6.0f, seed),
+                           [](double x) { return std::clamp((x + 2) / 8, 0.0, 1.0); }),
+                  1.63);
         seed = start;
-        ASSERT_EQ(zorsRandGauss_Direct_32f(v.data(), size, 3, 0.5f, &seed), zorStsOk);
-        EXPECT_LT(distance(v, [](double x) { return 0.5 * std::erfc((3 - x) / 0.5 / std::sqrt(2.0)); }),
+        EXPECT_LT(distance(drawn(zorsRandGauss_Direct_32f, 200000, 3.0f, 0.5f, seed),
+                           [](double x) { return 0.5 * std::erfc((3 - x) / 0.5 / std::sqrt(2.0)); }),
                   1.63);
     }
 }

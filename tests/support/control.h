@@ -9,6 +9,8 @@ namespace zors::test {
 
 inline constexpr unsigned standardControl = 0x1f80;
 
+inline constexpr unsigned roundings[] = {0x1f80, 0x3f80, 0x5f80, 0x7f80};
+
 // All four rounding directions; denormals flushed to zero; every exception a signal.
 inline constexpr unsigned controls[] = {0x1f80, 0x3f80, 0x5f80, 0x7f80, 0x9fc0, 0x0000};
 

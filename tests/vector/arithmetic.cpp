@@ -237,16 +237,13 @@ TEST(Arithmetic, FloatProductsAsIntegers)
 
 TEST(Arithmetic, ConstantsOfTheDefinition)
 {
-    const struct {
-        Zor16s a, b;
-        int scaleFactor;
-        Zor16s sum;
-    } cases[] = {{1, 2, 1, 2},          {1, 0, 1, 0},       {-3, 0, 1, -2},       {32767, 32767, 16, 1},
-                 {32767, 32767, 17, 0}, {3, 4, -16, 32767}, {3, -4, -16, -32768}, {4, -4, -16, 0}};
     Zor16s got;
-    for (const auto& c : cases) {
-        EXPECT_EQ(zorsAdd_16s_Sfs(&c.a, &c.b, &got, 1, c.scaleFactor), zorStsOk);
-        EXPECT_EQ(got, c.sum) << c.a << " + " << c.b << ", factor " << c.scaleFactor;
+    constexpr Zor16s cases[][4] = {{1, 2, 1, 2},          {1, 0, 1, 0},          {-3, 0, 1, -2},
+                                   {32767, 32767, 16, 1}, {32767, 32767, 17, 0}, {3, 4, -16, 32767},
+                                   {3, -4, -16, -32768},  {4, -4, -16, 0}};
+    for (const auto& [a, b, scaleFactor, want] : cases) {
+        EXPECT_EQ(zorsAdd_16s_Sfs(&a, &b, &got, 1, scaleFactor), zorStsOk);
+        EXPECT_EQ(got, want) << a << " + " << b << ", factor " << scaleFactor;
     }
     const Zor16s least = -32768;
     EXPECT_EQ(zorsMul_16s_Sfs(&least, &least, &got, 1, 1), zorStsOk);

@@ -91,19 +91,6 @@ TEST(Half, ToInteger)
         }
 }
 
-TEST(Half, OverflowGoesByTheRounding)
-{
-    const auto convert = [](Zor32f v, ZorRoundMode mode) {
-        Zor16f half = 0;
-        EXPECT_EQ(zorsConvert_32f16f(&v, &half, 1, mode), zorStsOk);
-        return half;
-    };
-    EXPECT_EQ(convert(65536, zorRndNear), 0x7c00);
-    EXPECT_EQ(convert(65536, zorRndZero), 0x7bff);
-    EXPECT_EQ(convert(-3e38f, zorRndZero), 0xfbff);
-    EXPECT_EQ(convert(-INFINITY, zorRndZero), 0xfc00);
-}
-
 TEST(Half, HasTwoRoundingModes)
 {
     const Zor32f one = 1;

@@ -8,6 +8,10 @@ namespace {
 
 using namespace zors::test;
 
+#define ALL_TYPES(name)                                                                                      \
+    name##_8u, name##_16s, name##_16sc, name##_32s, name##_32sc, name##_32f, name##_32fc, name##_64s,        \
+        name##_64sc, name##_64f, name##_64fc
+
 template <class... T>
 void expectCopies(ZorStatus (*... function)(const T*, T*, int))
 {
@@ -34,21 +38,14 @@ void expectMoves(ZorStatus (*move)(const T*, T*, int))
 
 TEST(Copy, CopiesEveryElement)
 {
-    expectCopies(zorsCopy_8u, zorsCopy_16s, zorsCopy_16sc, zorsCopy_32s, zorsCopy_32sc, zorsCopy_32f,
-                 zorsCopy_32fc, zorsCopy_64s, zorsCopy_64sc, zorsCopy_64f, zorsCopy_64fc);
-}
-
-TEST(Move, CopiesEveryElement)
-{
-    expectCopies(zorsMove_8u, zorsMove_16s, zorsMove_16sc, zorsMove_32s, zorsMove_32sc, zorsMove_32f,
-                 zorsMove_32fc, zorsMove_64s, zorsMove_64sc, zorsMove_64f, zorsMove_64fc);
+    expectCopies(ALL_TYPES(zorsCopy));
+    expectCopies(ALL_TYPES(zorsMove));
 }
 
 TEST(Move, GivesWhatTheSourceHeldWhereTheVectorsOverlap)
 {
     const auto each = [](auto... move) { (expectMoves(move), ...); };
-    each(zorsMove_8u, zorsMove_16s, zorsMove_16sc, zorsMove_32s, zorsMove_32sc, zorsMove_32f, zorsMove_32fc,
-         zorsMove_64s, zorsMove_64sc, zorsMove_64f, zorsMove_64fc);
+    each(ALL_TYPES(zorsMove));
 }
 
 // Where the caches cannot hold the vectors.

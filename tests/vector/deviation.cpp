@@ -76,10 +76,11 @@ TEST(IntegerDeviation, ExactAtEveryLengthAndScale)
 TEST(IntegerDeviation, AtTiesAndAtTheEndsOfTheType)
 {
     const Zor16s tie[] = {0, 3, 3, 3}, lower[] = {0, 1, 1, 1}; // 3 / 2, 1 / 2
-    inEveryRoundingMode([&] {
-        EXPECT_EQ(reduced(zorsStdDev_16s_Sfs, tie, 4, 0), 2);
-        EXPECT_EQ(reduced(zorsStdDev_16s_Sfs, lower, 4, 0), 0);
-    });
+    for (const unsigned control : roundings)
+        underControl(control, [&] {
+            EXPECT_EQ(reduced(zorsStdDev_16s_Sfs, tie, 4, 0), 2);
+            EXPECT_EQ(reduced(zorsStdDev_16s_Sfs, lower, 4, 0), 0);
+        });
     for (int k = 1; k < 2000; ++k)
         for (int d = -1; d <= 1; ++d) {
             const Zor16s v[] = {0, static_cast<Zor16s>(k), static_cast<Zor16s>(k),
@@ -91,16 +92,6 @@ TEST(IntegerDeviation, AtTiesAndAtTheEndsOfTheType)
     for (std::size_t i = 0; i < ends.size(); i += 2) ends[i] = 32767;
     for (const int s : {0, 1, -16, 16, 17}) expectScaled(ends.data(), 1 << 18, s);
     expectScaled(ends.data(), 2, 0);
-}
-
-template <class T>
-std::vector<T> normal(std::size_t count)
-{
-    Random bits(count);
-    std::normal_distribution<double> distribution(3, 20);
-    std::vector<T> v(count);
-    for (T& e : v) e = static_cast<T>(distribution(bits));
-    return v;
 }
 
 // Small integers: the sums and everything made of them up to the last divisions and roots are exact.
@@ -137,7 +128,7 @@ void expectDeviation(const T* p, int len, T result, Formula roundings)
 template <class T>
 void expectWithinBound(ZorStatus (*both)(const T*, int, T*, T*), auto alone)
 {
-    const auto v = normal<T>(longest);
+    const auto v = normal<T>(longest, 3, 20, 1);
     eachLength([&](std::size_t place, int len) {
         if (len < 2) return;
         const T* p = v.data() + place;

@@ -5,7 +5,6 @@
 
 #include <zors.h>
 
-#include <cfenv>
 #include <climits>
 #include <cmath>
 
@@ -23,6 +22,17 @@ std::vector<T> integers(std::size_t count)
     Random bits(count);
     std::vector<T> v(count);
     for (T& e : v) e = static_cast<T>(bits() >> (bits() % 64));
+    return v;
+}
+
+// Normal numbers, spread over so many powers of two.
+template <class T>
+std::vector<T> normal(std::size_t count, double mean, double deviation, int powers)
+{
+    Random bits(count);
+    std::normal_distribution<double> number(mean, deviation);
+    std::vector<T> v(count);
+    for (T& e : v) e = static_cast<T>(std::ldexp(number(bits), below(powers, bits) - powers / 2));
     return v;
 }
 
@@ -63,19 +73,6 @@ R scaledFraction(Wide numerator, Wide denominator, int scaleFactor)
     const bool up = twiceRest > denominator || (twiceRest == denominator && floor % 2 != 0);
     return static_cast<R>(
         std::clamp<Wide>(floor + (up ? 1 : 0), std::numeric_limits<R>::min(), std::numeric_limits<R>::max()));
-}
-
-// Runs body in every rounding mode of the caller; the mode must be the same afterwards.
-template <class Body>
-void inEveryRoundingMode(Body body)
-{
-    for (const int mode : {FE_TONEAREST, FE_UPWARD, FE_DOWNWARD, FE_TOWARDZERO}) {
-        std::fesetround(mode);
-        body();
-        const int after = std::fegetround();
-        std::fesetround(FE_TONEAREST);
-        EXPECT_EQ(after, mode);
-    }
 }
 
 } // namespace zors::test

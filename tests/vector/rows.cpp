@@ -1,12 +1,10 @@
 // Channels in rows and in frames. The rows are arrays of pointers, which the contract tests do not make: so this
 // also looks at what is beside the vectors and at every fault.
-#include "support/control.h"
 #include "support/integers.h"
 #include "support/oracle.h"
 
 #include <zors.h>
 
-#include <algorithm>
 #include <climits>
 #include <cmath>
 
@@ -39,50 +37,38 @@ void spread(RandomVector<Zor32f>& row, int len, Range range, Random& random)
             row.data()[n] = static_cast<Zor32f>((std::round(number(random) * unit) + 0.5) / unit);
 }
 
+// Joins rows, and splits frames over them.
 template <class T>
 void expectBoth(Join<T> join, Split<T> split, Range range)
 {
     Random random;
     const auto compare = [&](int channels, int len, unsigned control) {
-        const std::ptrdiff_t elements = std::ptrdiff_t{channels} * len;
+        const int parts = channels * len * range.parts<T>();
         std::vector<RandomVector<Zor32f>> rows;
-        for (int c = 0; c < channels; ++c) {
-            rows.emplace_back(len, c % 5, random);
-            spread(rows.back(), len, range, random);
-        }
-        std::vector<const Zor32f*> sources;
-        for (const auto& row : rows) sources.push_back(row.data());
-        RandomVector<T> got(elements * range.parts<T>(), len % 3, random), want = got;
-        underControl(control, [&] { EXPECT_EQ(join(sources.data(), got.data(), channels, len), zorStsOk); });
-        for (int n = 0; n < len; ++n)
-            for (int c = 0; c < channels; ++c)
-                range.store(joined(sources[static_cast<std::size_t>(c)][n], range), want.data(),
-                            std::ptrdiff_t{n} * channels + c);
-        compared(channels * len);
-        ASSERT_TRUE(got == want) << "byte " << got.firstDifference(want) << ", " << channels << " channels, "
-                                 << len << " frames, control " << std::hex << control;
-
-        // Back, over the rows.
+        std::vector<Zor32f*> pointers;
+        for (int c = 0; c < channels; ++c) spread(rows.emplace_back(len, c % 5, random), len, range, random);
+        for (auto& row : rows) pointers.push_back(row.data());
+        const RandomVector<T> frames(parts, 1, random);
+        RandomVector<T> got(parts, len % 3, random), want = got;
         auto wanted = rows;
-        std::vector<Zor32f*> destinations;
-        for (auto& row : rows) destinations.push_back(row.data());
-        const RandomVector<T> frames(elements * range.parts<T>(), 1, random);
-        underControl(control,
-                     [&] { EXPECT_EQ(split(frames.data(), destinations.data(), channels, len), zorStsOk); });
-        for (int c = 0; c < channels; ++c) {
-            auto& row = wanted[static_cast<std::size_t>(c)];
-            for (int n = 0; n < len; ++n) {
+        for (int n = 0; n < len; ++n)
+            for (int c = 0; c < channels; ++c) {
+                Zor32f& element = wanted[static_cast<std::size_t>(c)].data()[n];
+                const std::ptrdiff_t at = std::ptrdiff_t{n} * channels + c;
+                range.store(joined(element, range), want.data(), at);
                 std::int64_t v = 0;
                 std::memcpy(reinterpret_cast<char*>(&v) + 8 - range.bytes,
-                            reinterpret_cast<const char*>(frames.data()) +
-                                (std::ptrdiff_t{n} * channels + c) * range.bytes,
+                            reinterpret_cast<const char*>(frames.data()) + at * range.bytes,
                             static_cast<std::size_t>(range.bytes));
-                row.data()[n] = static_cast<Zor32f>(std::ldexp(static_cast<double>(v), -63));
+                element = static_cast<Zor32f>(std::ldexp(static_cast<double>(v), -63));
             }
-            compared(len);
-            ASSERT_TRUE(rows[static_cast<std::size_t>(c)] == row)
-                << "channel " << c << " of " << channels << ", " << len << " frames";
-        }
+        SCOPED_TRACE(testing::Message()
+                     << channels << " channels, " << len << " frames, control " << control);
+        ASSERT_EQ(under(control, join)(pointers.data(), got.data(), channels, len), zorStsOk);
+        ASSERT_TRUE(got == want) << "byte " << got.firstDifference(want);
+        ASSERT_EQ(under(control, split)(frames.data(), pointers.data(), channels, len), zorStsOk);
+        ASSERT_TRUE(rows == wanted);
+        compared(2 * channels * len);
     };
     for (int channels = 1; channels <= 9; ++channels)
         for (const int len : {1, 2, 3, 7, 8, 15, 16, 17, 31, 33, 64, 100, 129, 257, 1023, 1024, 1025, 2500})
@@ -124,9 +110,7 @@ TEST(Rows, FaultsInTheirOrder)
     expectFaults(zorsJoinScaled_32f16s_D2L, static_cast<const Zor32f*>(row), words);
     expectFaults(zorsJoinScaled_32f24s_D2L, static_cast<const Zor32f*>(row), bytes);
     const auto turned = [](auto split) {
-        return [split](auto** rows, auto* frames, int channels, int len) {
-            return split(frames, rows, channels, len);
-        };
+        return [=](auto** rows, auto* frames, auto... sizes) { return split(frames, rows, sizes...); };
     };
     expectFaults(turned(zorsSplitScaled_16s32f_D2L), row, words);
     expectFaults(turned(zorsSplitScaled_24s32f_D2L), row, bytes);

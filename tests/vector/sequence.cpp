@@ -119,22 +119,6 @@ TEST(Line, StoresFloatsAsTheyAre)
     expectLines(zorsVectorRamp_64f, zorsVectorSlope_64f);
 }
 
-TEST(Line, ConstantsOfTheDefinition)
-{
-    for (const auto function : {zorsVectorRamp_16s, zorsVectorSlope_16s}) {
-        const auto constant = [=](Zor32f offset) {
-            Zor16s dst[3];
-            EXPECT_EQ(function(dst, 3, offset, 0), zorStsOk);
-            EXPECT_TRUE(dst[1] == dst[0] && dst[2] == dst[0]);
-            return dst[0];
-        };
-        EXPECT_EQ(constant(0.5f), 1);
-        EXPECT_EQ(constant(-0.5f), -1);
-        EXPECT_EQ(constant(40000), 32767);
-        EXPECT_EQ(constant(NAN), 0);
-    }
-}
-
 // From 2^24 on the index itself is rounded.
 TEST(Line, IndexesBeyondSinglePrecision)
 {

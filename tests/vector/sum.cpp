@@ -100,17 +100,18 @@ TEST(IntegerSum, RoundsToEvenAndSaturates)
 {
     const Zor16s big[] = {32767, 32767}, three[] = {1, 2}, five[] = {1, 4}, zero[] = {7, -7},
                  minus[] = {-1, 0};
-    inEveryRoundingMode([&] {
-        EXPECT_EQ(reduced(zorsSum_16s_Sfs, big, 2, 0), 32767);
-        EXPECT_EQ(reduced(zorsSum_16s_Sfs, big, 2, 1), 32767);
-        EXPECT_EQ(reduced(zorsSum_16s_Sfs, three, 2, 1), 2);
-        EXPECT_EQ(reduced(zorsSum_16s_Sfs, five, 2, 1), 2);
-        EXPECT_EQ(reduced(zorsMean_16s_Sfs, three, 2, 0), 2);
-        EXPECT_EQ(reduced(zorsMean_16s_Sfs, five, 2, 0), 2);
-        EXPECT_EQ(reduced(zorsMean_16s_Sfs, minus, 2, 0), 0);
-        const Zor32s thirds[] = {INT_MAX, INT_MAX, INT_MAX - 2};
-        EXPECT_EQ(reduced(zorsMean_32s_Sfs, thirds, 3, 0), INT_MAX - 1);
-    });
+    for (const unsigned control : roundings)
+        underControl(control, [&] {
+            EXPECT_EQ(reduced(zorsSum_16s_Sfs, big, 2, 0), 32767);
+            EXPECT_EQ(reduced(zorsSum_16s_Sfs, big, 2, 1), 32767);
+            EXPECT_EQ(reduced(zorsSum_16s_Sfs, three, 2, 1), 2);
+            EXPECT_EQ(reduced(zorsSum_16s_Sfs, five, 2, 1), 2);
+            EXPECT_EQ(reduced(zorsMean_16s_Sfs, three, 2, 0), 2);
+            EXPECT_EQ(reduced(zorsMean_16s_Sfs, five, 2, 0), 2);
+            EXPECT_EQ(reduced(zorsMean_16s_Sfs, minus, 2, 0), 0);
+            const Zor32s thirds[] = {INT_MAX, INT_MAX, INT_MAX - 2};
+            EXPECT_EQ(reduced(zorsMean_32s_Sfs, thirds, 3, 0), INT_MAX - 1);
+        });
     for (const int s : {-1024, -2000, INT_MIN}) {
         EXPECT_EQ(reduced(zorsSum_16s32s_Sfs, zero, 2, s), INT_MIN);
         EXPECT_EQ(reduced(zorsSum_16s_Sfs, zero, 2, s), -32768);
@@ -138,23 +139,13 @@ double patternSum(const T* p, int len, int stride, int L, int block)
     return total;
 }
 
-template <class T>
-std::vector<T> reals(std::size_t count)
-{
-    std::mt19937_64 bits(count);
-    std::normal_distribution<double> normal(0.5, 1);
-    std::vector<T> v(count);
-    for (T& e : v) e = static_cast<T>(std::ldexp(normal(bits), static_cast<int>(bits() % 24) - 12));
-    return v;
-}
-
 // Sum and mean, part by part and bit for bit; the mean is made of the rounded sum.
 template <class P, class T, class... Hint>
 void expectPattern(ZorStatus (*sum)(const T*, int, T*, Hint...),
                    ZorStatus (*mean)(const T*, int, T*, Hint...))
 {
     constexpr int parts = sizeof(T) / sizeof(P), whole = INT_MAX / 2;
-    const auto v = reals<P>(2 * longest);
+    const auto v = normal<P>(2 * longest, 0.5, 1, 24);
     eachLength([&](std::size_t place, int len) {
         const auto* p = reinterpret_cast<const T*>(v.data() + place);
         for (const int hint : {0, 1, 2, -1}) {
@@ -185,7 +176,7 @@ TEST(FloatingSum, AddsInItsPattern)
 // The error bound that the documentation states, against 64-bit significands.
 TEST(FloatingSum, StaysWithinItsBound)
 {
-    const auto v = reals<Zor32f>(longest);
+    const auto v = normal<Zor32f>(longest, 0.5, 1, 24);
     eachLength([&](std::size_t place, int len) {
         const Zor32f* p = v.data() + place;
         long double exact = 0, magnitudes = 0;
