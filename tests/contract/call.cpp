@@ -17,13 +17,6 @@ bool nameHas(const Export& e, std::string_view code)
     return e.name.find(code) != std::string::npos;
 }
 
-// Small enough for a Kaiser window of the length.
-template <class T>
-T windowAlpha(int length, Random& random)
-{
-    return static_cast<T>(below(2001, random) - 1000) * T(0.074) / static_cast<T>(length);
-}
-
 // Scalars with a meaning get values that exercise it; all others any value of their type.
 void setScalar(const Export& e, const Parameter& p, int length, Value& value, Random& random)
 {
@@ -34,11 +27,11 @@ void setScalar(const Export& e, const Parameter& p, int length, Value& value, Ra
         value.set(below(nameHas(e, "16f") ? 2 : 3, random));
     else if (p.name == "hint")
         value.set(below(3, random));
-    else if (p.name == "alpha" && p.size == sizeof(Zor32f))
-        value.set(windowAlpha<Zor32f>(length, random));
-    else if (p.name == "alpha")
-        value.set(windowAlpha<Zor64f>(length, random));
-    else if (p.name == "alphaQ15")
+    else if (p.name == "alpha") {
+        const double alpha =
+            (below(2001, random) - 1000) * 0.074 / length; // a beta that Kaiser's windows take
+        p.size == sizeof alpha ? value.set(alpha) : value.set(static_cast<Zor32f>(alpha));
+    } else if (p.name == "alphaQ15")
         value.set(below(0x8000, random) - 0x4000);
     else if (p.name == "srcBitOffset" || p.name == "dstBitOffset")
         value.set(below(18, random));

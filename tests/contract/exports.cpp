@@ -82,12 +82,8 @@ Export makeExport(const char* name, const char* list, R (*)(A...))
             }
             (std::index_sequence_for<A...>{});
         };
-        const auto has = [&](Role role) {
-            return std::any_of(e.parameters.begin(), e.parameters.end(),
-                               [=](const Parameter& p) { return p.role == role; });
-        };
-        if (has(Role::unknown)) e.unreachable = "takes a record or rows of pointers";
-        if (!has(Role::length)) e.unreachable = "has no length";
+        if (e.has(Role::unknown)) e.unreachable = "takes a record or rows of pointers";
+        if (!e.has(Role::length)) e.unreachable = "has no length";
     }
     return e;
 }
@@ -99,6 +95,12 @@ const Parameter* Export::find(const std::string& parameter) const
     for (const auto& p : parameters)
         if (p.name == parameter) return &p;
     return nullptr;
+}
+
+bool Export::has(Role role) const
+{
+    return std::any_of(parameters.begin(), parameters.end(),
+                       [=](const Parameter& p) { return p.role == role; });
 }
 
 #undef ZORSAPI

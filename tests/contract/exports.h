@@ -16,6 +16,12 @@ using test::Random;
 // An argument of any type.
 class Value {
 public:
+    Value() = default;
+    template <class T>
+    explicit Value(T value)
+    {
+        set(value);
+    }
     template <class T>
     void set(T value)
     {
@@ -58,6 +64,7 @@ struct Export {
     std::string unreachable; // why the checks cannot call it; empty where they can
 
     const Parameter* find(const std::string& parameter) const;
+    bool has(Role role) const;
 };
 
 const std::vector<Export>& exports();

@@ -21,14 +21,6 @@ struct Fault {
     std::string text;
 };
 
-template <class T>
-Fault fault(std::size_t parameter, int rank, ZorStatus status, T value, const std::string& text)
-{
-    Fault f{parameter, rank, status, {}, text};
-    f.value.set(value);
-    return f;
-}
-
 bool mayBeNull(const Export& e, const Parameter& p)
 {
     return std::any_of(std::begin(optionalPointers), std::end(optionalPointers), [&](const Optional& o) {
@@ -57,10 +49,10 @@ std::vector<Fault> faultsOf(const Export& e)
         const Parameter& p = e.parameters[i];
         const int later = 2 + static_cast<int>(i);
         if (p.isPointer() && !mayBeNull(e, p))
-            faults.push_back(fault<void*>(i, 0, zorStsNullPointer, nullptr, p.name + " null"));
+            faults.push_back({i, 0, zorStsNullPointer, Value(static_cast<void*>(nullptr)), p.name + " null"});
         if (p.role == Role::length)
             for (const int bad : {leastLength(e) - 1, -1, INT_MIN})
-                faults.push_back(fault(i, lengthRank, zorStsBadSize, bad, "len " + std::to_string(bad)));
+                faults.push_back({i, lengthRank, zorStsBadSize, Value(bad), "len " + std::to_string(bad)});
         for (const auto& f : forbidden) {
             Value bad; // zero
             if (p.name == f.parameter && e.name.starts_with(f.function) &&

@@ -24,12 +24,6 @@ const Export* outOfPlace(const Export& e)
     return nullptr;
 }
 
-bool isInPlace(const Export& e)
-{
-    return std::any_of(e.parameters.begin(), e.parameters.end(),
-                       [](const Parameter& p) { return p.role == Role::inOut; });
-}
-
 // The content and the scalars of the in-place call for the other form, whose last source is the vector that the
 // in-place form overwrites.
 void giveSameInput(const Call& from, Call& to)
@@ -63,7 +57,7 @@ TEST(Contract, InPlace)
     Coverage coverage("InPlace");
     Buffers one, other;
     for (const auto& e : exports()) {
-        if (!isInPlace(e)) continue;
+        if (!e.has(Role::inOut)) continue;
         const Export* partner = outOfPlace(e);
         if (!partner) {
             coverage.leaveOut(e, "has no out-of-place form");

@@ -15,15 +15,10 @@ Zor16s saturated(Wide v)
 }
 
 // The integer roundings, as the library states them.
-Zor16s scaled(Zor16s source, Wide weight, int scaleFactor)
+Zor16s nearest(Zor16s source, Wide weight, int scaleFactor)
 {
     const float product = static_cast<float>(source) * static_cast<float>(weight);
     return saturated(std::nearbyint(std::ldexp(Wide(product), -scaleFactor)));
-}
-
-Zor16s nearest(Zor16s source, Wide weight)
-{
-    return scaled(source, weight, 0);
 }
 
 Zor16s halfAway(Zor16s source, Wide weight)
@@ -42,7 +37,8 @@ struct Window {
     Wide absolute = 4, relative = 0; // bounds of a double's weight, in units of 2^-53
     std::function<double(int len)> parameter = [](int) { return 0; };
     int shortest = 3;
-    std::function<Zor16s(Zor16s source, Wide weight)> integer = nearest, integerEnd = integer;
+    std::function<Zor16s(Zor16s source, Wide weight)> integer = [](auto... a) { return nearest(a..., 0); };
+    std::function<Zor16s(Zor16s source, Wide weight)> integerEnd = integer;
 };
 
 bool isNear(Zor64f got, Zor64f source, Wide weight, const Window& window, bool)
@@ -173,7 +169,7 @@ TEST(Windows, BlackmanScaled)
     for (const int scaleFactor : {0, 1, 5, 31, 2000, -1, -7, -40, -2000})
         expectWeights<Zor16s>(
             {.shape = [](int n, int len) { return n == 0 ? 0 : blackman(n, len, -5243 / 32768.0L); },
-             .integer = [=](Zor16s source, Wide weight) { return scaled(source, weight, scaleFactor); }},
+             .integer = [=](Zor16s source, Wide weight) { return nearest(source, weight, scaleFactor); }},
             [=](const Zor16s* pSrc, Zor16s* pDst, int len) {
                 if (pSrc != pDst) std::copy_n(pSrc, len, pDst);
                 return zorsWinBlackmanQ15_16s_ISfs(pDst, len, -5243, scaleFactor);

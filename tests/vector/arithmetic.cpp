@@ -66,29 +66,22 @@ constexpr int factors[] = {0,   1,   2,   3,   7,    8,     9,       14,      15
                            -2,  -6,  -7,  -8,  -14,  -15,   -16,     -29,     -30,        -31, -32,
                            -62, -63, -64, 100, 4000, -4000, INT_MAX, INT_MIN, INT_MIN + 1};
 
-// All factors at some lengths, and all lengths at some factor.
-template <class Body>
-void eachCase(Body body)
-{
-    for (const int factor : factors)
-        for (const int len : {1, 5, 63, 1003})
-            if (!testing::Test::HasFatalFailure()) body(len, factor);
-    for (int len = 1; len <= 257; ++len)
-        if (!testing::Test::HasFatalFailure()) body(len, factors[len % std::ssize(factors)]);
-}
-
-// What stands behind the length is a scale factor or nothing.
+// All factors at some lengths, and all lengths at some factor. What stands behind the length is a factor or nothing.
 template <class A, class B, class D, class... Factor, class Call, class Operation>
 void expectCases(Call call, Operation operation, int zeroAbove = INT_MAX)
 {
-    eachCase([&](int len, int factor) {
+    const auto compare = [&](int len, int factor) {
+        if (testing::Test::HasFatalFailure()) return;
         expectEach<A, B, D>(
             len, [&](auto... a) { return call(a..., Factor(factor)...); },
             [&](A a, B b, D old) {
                 return narrow<D>(operation(wide(a), wide(b), wide(old)), (0 + ... + Factor(factor)),
                                  zeroAbove);
             });
-    });
+    };
+    for (const int factor : factors)
+        for (const int len : {1, 5, 63, 1003}) compare(len, factor);
+    for (int len = 1; len <= 257; ++len) compare(len, factors[len % std::ssize(factors)]);
 }
 
 // The shapes of arguments: two sources; a source and the destination; either with a constant, the first element of

@@ -68,11 +68,6 @@ struct Operands {
         y.push_back(divisor);
         x.push_back(dividend);
     }
-    void addInRange(Wide divisor, Wide dividend)
-    {
-        if (dividend >= std::numeric_limits<T>::min() && dividend <= std::numeric_limits<T>::max())
-            add(static_cast<T>(divisor), static_cast<T>(dividend));
-    }
 };
 
 Random random64;
@@ -81,7 +76,7 @@ Operands<Zor8u> allPairs()
 {
     Operands<Zor8u> all;
     for (int y = 0; y < 256; ++y)
-        for (int x = 0; x < 256; ++x) all.addInRange(y, x);
+        for (int x = 0; x < 256; ++x) all.add(static_cast<Zor8u>(y), static_cast<Zor8u>(x));
     return all;
 }
 
@@ -90,18 +85,20 @@ Operands<Zor8u> allPairs()
 template <class T>
 Operands<T> awkwardPairs(int scaleFactor, int count = 400)
 {
-    using Limits = std::numeric_limits<T>;
+    constexpr Wide least = std::numeric_limits<T>::min(), most = std::numeric_limits<T>::max();
     Operands<T> all;
-    for (const Wide y : {Wide{Limits::min()}, Wide{Limits::max()}, Wide{0}, Wide{1}, Wide{2}, Wide{3}})
-        for (const Wide x : {Wide{Limits::min()}, Wide{Limits::max()}, Wide{0}, Wide{1}, Wide{5}})
-            all.addInRange(y, x);
+    const auto add = [&](Wide y, Wide x) {
+        if (least <= x && x <= most) all.add(static_cast<T>(y), static_cast<T>(x));
+    };
+    for (const Wide y : {least, most, Wide{0}, Wide{1}, Wide{2}, Wide{3}})
+        for (const Wide x : {least, most, Wide{0}, Wide{1}, Wide{5}}) add(y, x);
     for (int i = 0; i < count; ++i) {
         all.add(element<T>(random64), element<T>(random64));
         // The dividend of the tie (2k + 1) * 2^(s-1), where it is a whole number.
         const Wide y = element<T>(random64), odd = 2 * Wide{element<Zor16s>(random64)} + 1;
         const int s = std::clamp(scaleFactor, -40, 40);
         const Wide x = s > 0 ? y * odd << (s - 1) : y * odd >> (1 - s);
-        for (const Wide beside : {-1, 0, 1}) all.addInRange(y, x + beside);
+        for (const Wide beside : {-1, 0, 1}) add(y, x + beside);
     }
     for (int i = 0; i < count && scaleFactor < 0; ++i) {
         // x * 2^(1 - s) leaves the remainder 1 or -1 by an odd y.
@@ -109,8 +106,8 @@ Operands<T> awkwardPairs(int scaleFactor, int count = 400)
         if (y < 3) continue;
         Wide x = 1;
         for (int place = std::max(scaleFactor, -130); place <= 0; ++place) x = (x % 2 ? x + y : x) / 2;
-        all.addInRange(y, x);
-        all.addInRange(y, y - x);
+        add(y, x);
+        add(y, y - x);
     }
     return all;
 }

@@ -20,12 +20,9 @@ T elementOf(Zor32f value)
 {
     if constexpr (std::is_floating_point_v<T>) return value;
     if (std::isnan(value)) return 0;
-    const double wide = value;
-    const double rounded = std::trunc(wide > 0 ? wide + 0.5 : wide - 0.5);
-    using Limits = std::numeric_limits<T>;
-    if (rounded >= static_cast<double>(Limits::max())) return Limits::max();
-    if (rounded <= static_cast<double>(Limits::min())) return Limits::min();
-    return static_cast<T>(rounded);
+    const double wide = value, rounded = std::trunc(wide > 0 ? wide + 0.5 : wide - 0.5);
+    return static_cast<T>(
+        std::clamp<double>(rounded, std::numeric_limits<T>::min(), std::numeric_limits<T>::max()));
 }
 
 struct Straight {
