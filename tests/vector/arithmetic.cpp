@@ -125,14 +125,15 @@ void each(Operation operation, Function... function)
     (expect(operation, function), ...);
 }
 
+// The operands in the order of the arguments: what is subtracted or divides comes first.
 constexpr auto sum = [](auto a, auto b, auto...) { return a + b; };
-constexpr auto difference = [](auto a, auto b, auto...) {
-    return b - a;
-}; // the first operand is the subtrahend
+constexpr auto difference = [](auto a, auto b, auto...) { return b - a; };
 constexpr auto product = [](auto a, auto b, auto...) { return a * b; };
 constexpr auto quotient = [](auto a, auto b, auto...) { return b / a; };
 constexpr auto productSum = [](auto a, auto b, auto old) { return old + a * b; };
-constexpr auto turned = [](auto operation) { return [=](auto a, auto b) { return operation(b, a); }; };
+constexpr auto turned = [](auto operation) {
+    return [=](auto a, auto b, auto...) { return operation(b, a); };
+};
 
 #define PLAIN(name, type) zors##name##_##type, zors##name##_##type##_I
 #define SCALED(name, type) zors##name##_##type##_Sfs, zors##name##_##type##_ISfs
