@@ -2,28 +2,15 @@
 // as the exact ones do.
 #pragma once
 
+#include "opaque.h"
 #include "round.h"
 
 #include <zortypes.h>
 
 namespace zors::ZORS_VARIANT {
 
-// A value that the compiler does not look through: it would divide first and choose the quotient afterwards.
-template <class V>
-inline V opaque(V v)
-{
-    if constexpr (sizeof v <= 8) {
-        std::uint64_t bits = 0;
-        __builtin_memcpy(&bits, &v, sizeof v);
-        __asm__("" : "+r"(bits));
-        __builtin_memcpy(&v, &bits, sizeof v);
-    } else {
-        __asm__("" : "+x"(v));
-    }
-    return v;
-}
-
-// The lanes of v that a place covers; where it covers no more, the other value.
+// The lanes of v that a place covers; where it covers no more, the other value. Opaque, or the compiler would divide
+// first and choose the quotient afterwards.
 template <class T, int N>
 inline Vec<T, N> covered(Vec<T, N> v, Whole<N>, T)
 {

@@ -2,7 +2,7 @@
 // caches. A partial access touches the bytes of its lanes and no others.
 #pragma once
 
-#include "vector.h"
+#include "opaque.h"
 
 #include <cstddef>
 
@@ -59,10 +59,13 @@ inline Vec<T, N> loadMasked(const T* p, std::uint64_t m)
     }
 }
 
+// Opaque, or the compiler would store the half of a register with an instruction that extracts it, which faults
+// at forbidden lanes, masked or not.
 template <int N, class T>
 inline void storeMasked(T* p, Vec<T, N> v, std::uint64_t m)
 {
     constexpr int bytes = N * static_cast<int>(sizeof(T));
+    v = opaque(v);
     if constexpr (bytes == 64) {
         if constexpr (sizeof(T) == 1) _mm512_mask_storeu_epi8(p, m, (__m512i)v);
         if constexpr (sizeof(T) == 2) _mm512_mask_storeu_epi16(p, static_cast<__mmask32>(m), (__m512i)v);
