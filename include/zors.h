@@ -11,6 +11,11 @@
 #include <zors/generate/random.h>
 #include <zors/generate/windows.h>
 
+#include <zors/transform/fft_complex.h>
+#include <zors/transform/fft_real.h>
+#include <zors/transform/fft_spec.h>
+#include <zors/transform/packed.h>
+
 #include <zors/vector/arithmetic.h>
 #include <zors/vector/arithmetic_scaled.h>
 #include <zors/vector/bits.h>

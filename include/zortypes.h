@@ -144,6 +144,33 @@ enum {
     zorWinRect = 4      /**< no window */
 };
 
+/** How the fast Fourier transforms scale, N being their length: the flag of a specification. */
+enum {
+    ZOR_FFT_SCALE_FWD = 1,  /**< the forward transform by 1/N */
+    ZOR_FFT_SCALE_INV = 2,  /**< the inverse transform by 1/N */
+    ZOR_FFT_SCALE_SQRT = 4, /**< both by 1/sqrt(N) */
+    ZOR_FFT_SCALE_NONE = 8  /**< none */
+};
+
+/** @name Specifications of fast Fourier transforms
+ * Opaque: made by zorsFFTInit or zorsFFTInitAlloc, one type for each kind of data.
+ * @{
+ */
+typedef struct ZorsFFTSpec_C_16sc ZorsFFTSpec_C_16sc;
+typedef struct ZorsFFTSpec_C_16s ZorsFFTSpec_C_16s;
+typedef struct ZorsFFTSpec_R_16s ZorsFFTSpec_R_16s;
+typedef struct ZorsFFTSpec_C_32fc ZorsFFTSpec_C_32fc;
+typedef struct ZorsFFTSpec_C_32f ZorsFFTSpec_C_32f;
+typedef struct ZorsFFTSpec_R_32f ZorsFFTSpec_R_32f;
+typedef struct ZorsFFTSpec_C_64fc ZorsFFTSpec_C_64fc;
+typedef struct ZorsFFTSpec_C_64f ZorsFFTSpec_C_64f;
+typedef struct ZorsFFTSpec_R_64f ZorsFFTSpec_R_64f;
+typedef struct ZorsFFTSpec_C_32sc ZorsFFTSpec_C_32sc;
+typedef struct ZorsFFTSpec_C_32s ZorsFFTSpec_C_32s;
+typedef struct ZorsFFTSpec_R_32s ZorsFFTSpec_R_32s;
+typedef struct ZorsFFTSpec_R_16s32s ZorsFFTSpec_R_16s32s;
+/** @} */
+
 /** The version record that zorsGetLibVersion() returns. */
 typedef struct {
     Zor32s versionMajor;     /**< 8 */

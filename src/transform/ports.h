@@ -1,0 +1,263 @@
+// Where the passes of a transform read and write: rows of W complex elements, lanes side by side. Inside, real
+// and imaginary parts are apart; the ports at the ends take complex pairs apart and put them together, exchange
+// the parts for the inverse, and scale.
+#pragma once
+
+#include "butterfly.h"
+#include "fan.h"
+#include "simd/memory.h"
+#include "simd/transpose.h"
+
+namespace zors::ZORS_VARIANT {
+
+// Results of the last pass have their lanes in this order, in which pairs are put together inside blocks of 16 bytes.
+template <class T, int W>
+constexpr int rowOfLane(int lane)
+{
+    constexpr int each = lanesOfBlock<Vec<T, W>>, half = each / 2;
+    const int block = lane / each, inside = lane % each;
+    return block * half + inside % half + (inside < half ? 0 : W / 2);
+}
+
+// A port is asked for some rows at once: from<R>(row, stride) are R rows, row, row + n, ..., where stride(n) is that
+// distance in memory; closeFrom<n>(row) are the same where rows follow one another without a gap. every(n, row) is a
+// port to every n-th row.
+
+// In one array, vectors of real and of imaginary parts taking turns.
+template <class T, int W>
+struct Rows {
+    T* p;
+    std::ptrdiff_t numbers = 2 * W; // from row to row
+
+    template <class At>
+    struct Some {
+        At at;
+
+        [[gnu::always_inline]] Cx<Vec<T, W>> get(int i) const { return {load<W>(at[i]), load<W>(at[i] + W)}; }
+        [[gnu::always_inline]] void put(int i, Cx<Vec<T, W>> v) const
+        {
+            store<W>(at[i], v.re);
+            store<W>(at[i] + W, v.im);
+        }
+    };
+    Stride stride(std::ptrdiff_t rows) const { return Stride(rows * numbers * std::ptrdiff_t{sizeof(T)}); }
+    template <int R>
+    [[gnu::always_inline]] Some<Fan<R, T>> from(std::ptrdiff_t row, const Stride& stride) const
+    {
+        return {{p + row * numbers, stride}};
+    }
+    template <int Step>
+    [[gnu::always_inline]] Some<Fixed<2 * Step * W, T>> closeFrom(std::ptrdiff_t row) const
+    {
+        return {{p + row * 2 * W}};
+    }
+    Rows every(std::ptrdiff_t step, std::ptrdiff_t first) const
+    {
+        return {p + first * numbers, step * numbers};
+    }
+};
+
+// In two arrays. The distance of rows is that of two columns.
+template <class T, int W>
+struct Apart {
+    T* re;
+    T* im;
+    std::ptrdiff_t numbers; // from row to row
+
+    template <class At>
+    struct Some {
+        At re, im;
+
+        [[gnu::always_inline]] Cx<Vec<T, W>> get(int i) const { return {load<W>(re[i]), load<W>(im[i])}; }
+        [[gnu::always_inline]] void put(int i, Cx<Vec<T, W>> v) const
+        {
+            store<W>(re[i], v.re);
+            store<W>(im[i], v.im);
+        }
+        [[gnu::always_inline]] void putTurned(int i, Cx<Vec<T, W>> v) const
+        {
+            put(i, {permute<LaneOfRow>(v.re), permute<LaneOfRow>(v.im)});
+        }
+
+        struct LaneOfRow {
+            constexpr int operator()(int row) const
+            {
+                int lane = 0;
+                while (rowOfLane<T, W>(lane) != row) ++lane;
+                return lane;
+            }
+        };
+    };
+    Stride stride(std::ptrdiff_t rows) const { return Stride(rows * numbers * std::ptrdiff_t{sizeof(T)}); }
+    template <int R>
+    [[gnu::always_inline]] Some<Fan<R, T>> from(std::ptrdiff_t row, const Stride& stride) const
+    {
+        return {{re + row * numbers, stride}, {im + row * numbers, stride}};
+    }
+    template <int Step>
+    [[gnu::always_inline]] Some<Fixed<Step * W, T>> closeFrom(std::ptrdiff_t row) const
+    {
+        return {{re + row * W}, {im + row * W}};
+    }
+    Apart every(std::ptrdiff_t step, std::ptrdiff_t first) const
+    {
+        return {re + first * numbers, im + first * numbers, step * numbers};
+    }
+};
+
+// Complex pairs. Swapped exchanges the parts, which turns the forward transform into the inverse.
+template <class T, int W, bool Swapped>
+struct Pairs {
+    T* p;
+    std::ptrdiff_t numbers; // from row to row
+
+    template <class At>
+    struct Some {
+        At at;
+
+        [[gnu::always_inline]] Cx<Vec<T, W>> get(int i) const
+        {
+            const auto v = deinterleave(load<W>(at[i]), load<W>(at[i] + W));
+            return Swapped ? Cx<Vec<T, W>>{v.second, v.first} : Cx<Vec<T, W>>{v.first, v.second};
+        }
+        [[gnu::always_inline]] void put(int i, Cx<Vec<T, W>> v) const
+        {
+            const auto w = Swapped ? interleave(v.im, v.re) : interleave(v.re, v.im);
+            store<W>(at[i], w.first);
+            store<W>(at[i] + W, w.second);
+        }
+        [[gnu::always_inline]] void putTurned(int i, Cx<Vec<T, W>> v) const
+        {
+            auto a = Swapped ? v.im : v.re, b = Swapped ? v.re : v.im;
+            unpack(a, b);
+            store<W>(at[i], a);
+            store<W>(at[i] + W, b);
+        }
+    };
+    Stride stride(std::ptrdiff_t rows) const { return Stride(rows * numbers * std::ptrdiff_t{sizeof(T)}); }
+    template <int R>
+    [[gnu::always_inline]] Some<Fan<R, T>> from(std::ptrdiff_t row, const Stride& stride) const
+    {
+        return {{p + row * numbers, stride}};
+    }
+    template <int Step>
+    [[gnu::always_inline]] Some<Fixed<2 * Step * W, T>> closeFrom(std::ptrdiff_t row) const
+    {
+        return {{p + row * 2 * W}};
+    }
+    Pairs every(std::ptrdiff_t step, std::ptrdiff_t first) const
+    {
+        return {p + first * numbers, step * numbers};
+    }
+};
+
+// A destination that multiplies by a factor.
+template <class T, class Out>
+struct Scaled {
+    Out out;
+    T factor;
+
+    template <class Rows>
+    struct Some {
+        Rows rows;
+        T factor;
+
+        template <class V>
+        [[gnu::always_inline]] void put(int i, Cx<V> v) const
+        {
+            rows.put(i, {v.re * factor, v.im * factor});
+        }
+        template <class V>
+        [[gnu::always_inline]] void putTurned(int i, Cx<V> v) const
+        {
+            rows.putTurned(i, {v.re * factor, v.im * factor});
+        }
+    };
+    Stride stride(std::ptrdiff_t rows) const { return out.stride(rows); }
+    template <int R>
+    [[gnu::always_inline]] auto from(std::ptrdiff_t row, const Stride& stride) const
+    {
+        return scaled(out.template from<R>(row, stride));
+    }
+    template <int Step>
+    [[gnu::always_inline]] auto closeFrom(std::ptrdiff_t row) const
+    {
+        return scaled(out.template closeFrom<Step>(row));
+    }
+    template <class Rows>
+    [[gnu::always_inline]] Some<Rows> scaled(Rows rows) const
+    {
+        return {rows, factor};
+    }
+};
+
+// What a caller hands over: N complex pairs, or two arrays of N numbers. The inverse of the latter is the forward
+// transform with real and imaginary arrays in exchanged places.
+template <class T, bool Swapped>
+struct PairedArrays {
+    const T* src;
+    T* dst;
+
+    Cx<T> get(std::ptrdiff_t i) const
+    {
+        return Swapped ? Cx<T>{src[2 * i + 1], src[2 * i]} : Cx<T>{src[2 * i], src[2 * i + 1]};
+    }
+    void put(std::ptrdiff_t i, Cx<T> v) const
+    {
+        dst[2 * i] = Swapped ? v.im : v.re;
+        dst[2 * i + 1] = Swapped ? v.re : v.im;
+    }
+    template <int W>
+    Pairs<T, W, Swapped> source(std::ptrdiff_t stride = W, std::ptrdiff_t first = 0) const
+    {
+        return {const_cast<T*>(src) + 2 * first, 2 * stride};
+    }
+    template <int W>
+    Pairs<T, W, Swapped> sink(std::ptrdiff_t stride = W, std::ptrdiff_t first = 0) const
+    {
+        return {dst + 2 * first, 2 * stride};
+    }
+    // The destination as room for rows of any kind.
+    template <int W>
+    Rows<T, W> room() const
+    {
+        return {dst};
+    }
+    PairedArrays onDestination(std::ptrdiff_t first) const { return {dst + 2 * first, dst + 2 * first}; }
+};
+
+template <class T>
+struct SplitArrays {
+    const T* srcRe;
+    const T* srcIm;
+    T* dstRe;
+    T* dstIm;
+
+    Cx<T> get(std::ptrdiff_t i) const { return {srcRe[i], srcIm[i]}; }
+    void put(std::ptrdiff_t i, Cx<T> v) const
+    {
+        dstRe[i] = v.re;
+        dstIm[i] = v.im;
+    }
+    template <int W>
+    Apart<T, W> source(std::ptrdiff_t stride = W, std::ptrdiff_t first = 0) const
+    {
+        return {const_cast<T*>(srcRe) + first, const_cast<T*>(srcIm) + first, stride};
+    }
+    template <int W>
+    Apart<T, W> sink(std::ptrdiff_t stride = W, std::ptrdiff_t first = 0) const
+    {
+        return {dstRe + first, dstIm + first, stride};
+    }
+    template <int W>
+    Apart<T, W> room() const
+    {
+        return {dstRe, dstIm, W};
+    }
+    SplitArrays onDestination(std::ptrdiff_t first) const
+    {
+        return {dstRe + first, dstIm + first, dstRe + first, dstIm + first};
+    }
+};
+
+} // namespace zors::ZORS_VARIANT

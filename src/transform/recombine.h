@@ -1,0 +1,224 @@
+// Between the spectrum Z of N/2 complex numbers z[j] = x[2j] + i x[2j+1] and the spectrum X of the N real ones. With
+// C = conj(Z[N/2 - k]), D = Z[k] - C and E = (1/2 - i/2 e^(-2 pi i k / N)) D,
+//
+//     X[k] = C + E,  X[N/2 - k] = conj(Z[k] - E);
+//
+// and back, times two, with C = conj(X[N/2 - k]), D = X[k] - C and E = i e^(2 pi i k / N) D,
+//
+//     Z[k] = X[k] + C + E,  Z[N/2 - k] = conj(X[k] + C - E).
+//
+// Both go through the pairs from the two ends and may work in place.
+#pragma once
+
+#include "simd/complex.h"
+#include "sines.h"
+
+namespace zors::ZORS_VARIANT {
+
+// From this order on the tables of recombination have two levels.
+template <class T>
+inline constexpr int firstTwoLevelOrder = sizeof(T) == 4 ? 19 : 18;
+inline constexpr std::ptrdiff_t innerFactors = 1024;
+
+// Complex numbers in a table of recombination.
+template <class T>
+constexpr std::ptrdiff_t recombinationFactors(int order)
+{
+    const std::ptrdiff_t quarter = (std::ptrdiff_t{1} << order) / 4;
+    return order < firstTwoLevelOrder<T> ? quarter : quarter / innerFactors + innerFactors;
+}
+
+// Forward a = 1/2 cos, b = 1/2 - 1/2 sin; backward cos and -sin, of 2 pi k / N, for k < N/4. In two levels both
+// tables hold cos and -sin, first of the multiples of innerFactors and then of what is below.
+template <bool Forward, class T>
+constexpr Cx<T> recombinationFactor(Cx<T> w)
+{
+    constexpr T half = T(0.5);
+    return Forward ? Cx<T>{half * w.re, half + half * w.im} : w;
+}
+
+template <bool Forward, class T>
+constexpr void fillRecombination(int order, const Wave<T>& wave, T* p)
+{
+    const std::ptrdiff_t quarter = (std::ptrdiff_t{1} << order) / 4;
+    const auto put = [&](Cx<T> w) {
+        *p++ = w.re;
+        *p++ = w.im;
+    };
+    if (order < firstTwoLevelOrder<T>) {
+        for (std::ptrdiff_t k = 0; k < quarter; ++k) put(recombinationFactor<Forward>(wave(k, order)));
+    } else {
+        for (std::ptrdiff_t k = 0; k < quarter; k += innerFactors) put(wave(k, order));
+        for (std::ptrdiff_t k = 0; k < innerFactors; ++k) put(wave(k, order));
+    }
+}
+
+// E for D and an entry of the table.
+template <bool Forward, class V>
+[[gnu::always_inline]] inline Cx<V> turned(Cx<V> d, Cx<V> f)
+{
+    if constexpr (Forward)
+        return {mulAdd(f.im, d.re, f.re * d.im), mulSub(f.im, d.im, f.re * d.re)};
+    else
+        return {mulSub(f.im, d.re, f.re * d.im), mulAdd(f.im, d.im, f.re * d.re)};
+}
+
+// The pair of points k and N/2 - k, in place of a and b.
+template <bool Forward, class V>
+[[gnu::always_inline]] inline void recombinePair(Cx<V>& a, Cx<V>& b, Cx<V> factor)
+{
+    const Cx<V> c = {b.re, -b.im};
+    const Cx<V> e = turned<Forward>(a - c, factor);
+    const Cx<V> p = Forward ? c : a + c, q = Forward ? a : p;
+    a = p + e;
+    b = q - e;
+    b.im = -b.im;
+}
+
+// Complex pairs from and to memory, in order or in the opposite one, in which the first lane is the last pair.
+template <int W, class T>
+[[gnu::always_inline]] inline Cx<Vec<T, W>> loadInOrder(const T* p)
+{
+    const auto v = deinterleave(load<W>(p), load<W>(p + W));
+    return {v.first, v.second};
+}
+
+template <int W, class T>
+[[gnu::always_inline]] inline void storeInOrder(T* p, Cx<Vec<T, W>> v)
+{
+    const auto w = interleave(v.re, v.im);
+    store<W>(p, w.first);
+    store<W>(p + W, w.second);
+}
+
+template <int W, class T>
+[[gnu::always_inline]] inline Cx<Vec<T, W>> loadMirrored(const T* p)
+{
+    struct Real {
+        constexpr int operator()(int i) const { return 2 * (W - 1 - i); }
+    };
+    struct Imaginary {
+        constexpr int operator()(int i) const { return 2 * (W - 1 - i) + 1; }
+    };
+    const Vec<T, W> a = load<W>(p), b = load<W>(p + W);
+    return {permute<Real>(a, b), permute<Imaginary>(a, b)};
+}
+
+template <int W, class T>
+[[gnu::always_inline]] inline void storeMirrored(T* p, Cx<Vec<T, W>> v)
+{
+    struct Low {
+        constexpr int operator()(int i) const { return W - 1 - i / 2 + i % 2 * W; }
+    };
+    struct High {
+        constexpr int operator()(int i) const { return W / 2 - 1 - i / 2 + i % 2 * W; }
+    };
+    store<W>(p, permute<Low>(v.re, v.im));
+    store<W>(p + W, permute<High>(v.re, v.im));
+}
+
+// Sources of the factors: one table, or the product of two. A vector begins at a multiple of its width, or at 1.
+template <class T>
+struct OneLevel {
+    const T* p;
+
+    template <bool Forward>
+    Cx<T> scalar(std::ptrdiff_t k) const
+    {
+        return {p[2 * k], p[2 * k + 1]};
+    }
+    template <bool Forward, int W>
+    Cx<Vec<T, W>> vector(std::ptrdiff_t k) const
+    {
+        return loadInOrder<W>(p + 2 * k);
+    }
+};
+
+template <class T>
+struct TwoLevel {
+    const T* outer;
+    const T* inner;
+
+    template <bool Forward>
+    Cx<T> scalar(std::ptrdiff_t k) const
+    {
+        const T* q = outer + k / innerFactors * 2;
+        const T* r = inner + k % innerFactors * 2;
+        return recombinationFactor<Forward>(times(Cx<T>{q[0], q[1]}, Cx<T>{r[0], r[1]}));
+    }
+    template <bool Forward, int W>
+    Cx<Vec<T, W>> vector(std::ptrdiff_t k) const
+    {
+        const T* q = outer + k / innerFactors * 2;
+        const auto r = loadInOrder<W>(inner + k % innerFactors * 2);
+        const auto w = times({splat<T, W>(q[0]), splat<T, W>(q[1])}, r);
+        if constexpr (!Forward) return w;
+        return {w.re * T(0.5), mulAdd(w.im, splat<T, W>(T(0.5)), splat<T, W>(T(0.5)))};
+    }
+};
+
+// The last lane of the one, the others of the other.
+template <class V>
+[[gnu::always_inline]] inline Cx<V> withLastLane(Cx<V> last, Cx<V> others)
+{
+    struct Map {
+        constexpr int operator()(int i) const { return i == lanesOf<V> - 1 ? lanesOf<V> + i : i; }
+    };
+    return {permute<Map>(others.re, last.re), permute<Map>(others.im, last.im)};
+}
+
+// The pairs k to k + W - 1. Without Last the last one stays as it was, for a later step.
+template <bool Forward, bool Last, int W, class T, class Factors>
+[[gnu::always_inline]] inline void recombineVector(const T* from, T* to, std::ptrdiff_t half,
+                                                   std::ptrdiff_t k, Factors factors)
+{
+    const std::ptrdiff_t low = 2 * k, high = 2 * (half - k - W + 1);
+    const auto a = loadInOrder<W>(from + low), b = loadMirrored<W>(from + high);
+    auto x = a, y = b;
+    recombinePair<Forward>(x, y, factors.template vector<Forward, W>(k));
+    if constexpr (!Last) {
+        x = withLastLane(a, x);
+        y = withLastLane(b, y);
+    }
+    storeInOrder<W>(to + low, x);
+    storeMirrored<W>(to + high, y);
+}
+
+// After the first step the lower points are aligned as the vector is.
+template <bool Forward, int W, class T, class Factors>
+[[gnu::always_inline]] inline void recombineVectors(const T* from, T* to, std::ptrdiff_t half,
+                                                    Factors factors)
+{
+    recombineVector<Forward, false, W>(from, to, half, 1, factors);
+    for (std::ptrdiff_t k = W; k < half / 2; k += W)
+        recombineVector<Forward, true, W>(from, to, half, k, factors);
+}
+
+// Points 1 to N/2 - 1, N = 2^order from 4 on; from and to are where point 0 stands or would stand. The table has a
+// number to spare where it is as short as a vector.
+template <bool Forward, class T, class Factors>
+inline void recombine(int order, const T* from, T* to, Factors factors)
+{
+    constexpr int few = 16 / static_cast<int>(sizeof(T));
+    const std::ptrdiff_t half = (std::ptrdiff_t{1} << order) / 2, quarter = half / 2;
+    if (quarter >= 2 * lanes<T>) {
+        recombineVectors<Forward, lanes<T>>(from, to, half, factors);
+    } else if (quarter >= few) {
+        recombineVectors<Forward, few>(from, to, half, factors);
+    } else {
+        for (std::ptrdiff_t k = 1; k < quarter; ++k) {
+            Cx<T> a = {from[2 * k], from[2 * k + 1]}, b = {from[2 * (half - k)], from[2 * (half - k) + 1]};
+            recombinePair<Forward>(a, b, factors.template scalar<Forward>(k));
+            to[2 * k] = a.re;
+            to[2 * k + 1] = a.im;
+            to[2 * (half - k)] = b.re;
+            to[2 * (half - k) + 1] = b.im;
+        }
+    }
+    // The middle is its own mirror: E is 0, and -D on the way back.
+    const T re = from[2 * quarter], im = from[2 * quarter + 1];
+    to[2 * quarter] = Forward ? re : 2 * re;
+    to[2 * quarter + 1] = Forward ? -im : -2 * im;
+}
+
+} // namespace zors::ZORS_VARIANT
