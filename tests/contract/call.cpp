@@ -1,4 +1,5 @@
 #include "call.h"
+#include "exceptions.h"
 
 #include <algorithm>
 #include <cstring>
@@ -66,6 +67,8 @@ std::size_t vectorBytes(const Call& call, const Parameter& p, int length)
         const auto index = static_cast<std::size_t>(offset - e.parameters.data());
         return (static_cast<std::size_t>(call.arguments[index].get<int>() % 8) + n + 7) / 8;
     }
+    for (const auto name : ccsSources)
+        if (e.name.starts_with(name) && p.role == Role::source) return (n / 2 + 1) * 2 * p.size;
     if (p.size == 1 && (nameHas(e, "24u") || nameHas(e, "24s"))) return 3 * n;
     return n * p.size;
 }

@@ -18,6 +18,9 @@ inline constexpr Optional optionalPointers[] = {
     {"zorsRealToCplx_", "pSrcIm", "either part may be missing; both missing is tested with the family"},
 };
 
+// Sources that hold a CCS spectrum of a signal of len points: its first half as complex points, zeros included.
+inline constexpr std::string_view ccsSources[] = {"zorsConjCcs_"};
+
 // Least lengths other than 1.
 struct LeastLength {
     std::string_view function;

@@ -1,0 +1,144 @@
+// The error of every transform at every order, beside a transform in wider arithmetic.
+#include "support/count.h"
+#include "transform/samples.h"
+
+#include <cstdio>
+#include <gtest/gtest.h>
+#include <map>
+
+namespace zors::test {
+namespace {
+
+// Root mean squares, relative to the result, in units of eps sqrt(log2 N).
+constexpr double bound = 0.40;
+constexpr double roundingOfFactor = 0.30; // in units of eps: 1 / sqrt(12) and a little
+
+struct Sample {
+    std::vector<Wide> input;
+    WideVector expected;
+};
+
+Sample makeSample(const Transform& t, int order, Random& random)
+{
+    Sample s;
+    s.input = randomNumbers(t.in, order, random);
+    s.expected = dft(pointsFrom(s.input, t.in.format));
+    if (t.inverse) s.expected = inverseFromForward(s.expected);
+    return s;
+}
+
+// Transforms share their samples: the same numbers as pairs, or as the parts of a spectrum.
+const std::vector<Sample>& samplesFor(const Transform& t, int order)
+{
+    static std::map<std::string, std::vector<Sample>> all;
+    static int orderOfSamples = -1;
+    if (order != orderOfSamples) all.clear();
+    orderOfSamples = order;
+    const std::string key = std::to_string(static_cast<int>(t.in.format)) + ' ' +
+                            std::to_string(static_cast<int>(t.in.number)) + (t.inverse ? " inverse" : "");
+    std::vector<Sample>& samples = all[key];
+    Random random;
+    while (static_cast<int>(samples.size()) < RelativeError::samples(order))
+        samples.push_back(makeSample(t, order, random));
+    return samples;
+}
+
+std::vector<Wide> run(const Transform& t, const Spec& spec, const std::vector<Wide>& input, int order,
+                      int scaleFactor)
+{
+    Memory in(t.in.bytes(order)), out(t.out.bytes(order));
+    writeNumbers(input, t.in.number, in.get());
+    EXPECT_EQ(t.run(in.get(), out.get(), spec.get(), order, scaleFactor, nullptr), zorStsOk);
+    return readNumbers(out.get(), t.out.number, t.out.numbers(order));
+}
+
+double errorOf(const Transform& t, int order, int flag)
+{
+    const Spec spec(*t.kind, order, flag);
+    const Wide factor = factorOf(flag, t.inverse, order);
+    RelativeError error;
+    for (const Sample& sample : samplesFor(t, order)) {
+        const WideVector got = pointsFrom(run(t, spec, sample.input, order, 0), t.out.format);
+        WideVector expected = sample.expected;
+        for (auto& p : expected) p *= factor;
+        error.add(got, expected);
+        compared(static_cast<long long>(expected.size()));
+    }
+    return error.value() / t.epsilon();
+}
+
+TEST(Accuracy, Oracle)
+{
+    Random random;
+    for (int order = 0; order <= 8; ++order) {
+        const std::size_t n = std::size_t{1} << order;
+        const WideVector x =
+            pointsFrom(randomNumbers({Format::pairs, Number::float64}, order, random), Format::pairs);
+        WideVector direct(n);
+        for (std::size_t k = 0; k < n; ++k)
+            for (std::size_t j = 0; j < n; ++j)
+                direct[k] += x[j] * std::polar(1.0L, -2 * std::numbers::pi_v<Wide> *
+                                                         static_cast<Wide>(j * k % n) / static_cast<Wide>(n));
+        RelativeError error;
+        error.add(dft(x), direct);
+        EXPECT_LT(error.value(), 1e-18) << order;
+    }
+}
+
+TEST(Accuracy, FloatingTransforms)
+{
+    std::map<std::string, double> worst;
+    for (int order = 0; order <= longestOrder(22); ++order)
+        for (const Transform& t : transforms()) {
+            if (!isFloating(t.in.number)) continue;
+            const double unit = std::sqrt(static_cast<double>(order));
+            for (const int flag : flags) {
+                // Long transforms take their time: one with and one without a factor, the longest only without.
+                if (order > 14 && flag != ZOR_FFT_SCALE_SQRT && flag != ZOR_FFT_SCALE_NONE) continue;
+                if (order > 18 && flag != ZOR_FFT_SCALE_NONE) continue;
+                const double error = errorOf(t, order, flag);
+                const double more = factorOf(flag, t.inverse, order) == 1 ? 0 : roundingOfFactor;
+                EXPECT_LE(error, bound * unit + more) << t.name << ", order " << order << ", flag " << flag;
+                if (order > 0 && more == 0) worst[t.name] = std::max(worst[t.name], error / unit);
+            }
+        }
+    for (const auto& [name, error] : worst)
+        std::printf("%-18s at most %.3f eps sqrt(log2 N)\n", name.c_str(), error);
+}
+
+// Integer results are the rounded ones, and where the exact value is out of range the nearest there is.
+TEST(Accuracy, IntegerTransforms)
+{
+    for (int order = 0; order <= longestOrder(14); ++order)
+        for (const Transform& t : transforms()) {
+            if (isFloating(t.in.number)) continue;
+            const Sample& sample = samplesFor(t, order).front();
+            const std::vector<Wide> expected = numbersFrom(sample.expected, t.out.format);
+            Wide power = 0;
+            for (const Wide x : expected) power += x * x;
+            const Wide size = std::sqrt(power / static_cast<Wide>(expected.size()));
+            const Wide most = t.out.number == Number::int16 ? 0x7fffL : 0x7fffffffL;
+            for (const int flag : flags) {
+                const Spec spec(*t.kind, order, flag);
+                for (const int scaleFactor : {0, order, order / 2 + 1, order - 20, 40}) {
+                    const Wide factor = std::ldexp(factorOf(flag, t.inverse, order), -scaleFactor);
+                    // No single error is ten times the root mean square.
+                    const Wide slack = 0.5L + 10 * (bound * order + roundingOfFactor) *
+                                                  static_cast<Wide>(t.epsilon()) * size * factor;
+                    const std::vector<Wide> got = run(t, spec, sample.input, order, scaleFactor);
+                    compared(static_cast<long long>(got.size()));
+                    for (std::size_t i = 0; i < got.size(); ++i) {
+                        const Wide want = expected[i] * factor;
+                        const Wide low = std::clamp(want - slack, -most - 1, most);
+                        const Wide high = std::clamp(want + slack, -most - 1, most);
+                        ASSERT_TRUE(got[i] >= low && got[i] <= high)
+                            << t.name << ", order " << order << ", flag " << flag << ", scale factor "
+                            << scaleFactor << ", number " << i << ": " << got[i] << " instead of " << want;
+                    }
+                }
+            }
+        }
+}
+
+} // namespace
+} // namespace zors::test

@@ -1,0 +1,53 @@
+// All transforms behind one interface: from an array of numbers to another, each in a format.
+#pragma once
+
+#include "transform/kinds.h"
+#include "transform/oracle.h"
+
+namespace zors::test {
+
+// Complex points as pairs or as two arrays behind one another; real numbers; and their spectra.
+enum class Format { pairs, split, real, ccs, pack, perm };
+
+enum class Number { int16, int32, float32, float64 };
+
+std::size_t bytesOf(Number number);
+bool isFloating(Number number);
+
+// How many numbers N = 2^order points take.
+std::size_t numbersOf(Format format, int order);
+
+struct Side {
+    Format format;
+    Number number;
+
+    std::size_t numbers(int order) const { return numbersOf(format, order); }
+    std::size_t bytes(int order) const { return numbers(order) * bytesOf(number); }
+};
+
+struct Transform {
+    std::string name;
+    const Kind* kind;
+    bool inverse;
+    Side in, out;
+    // The scale factor is for the integers.
+    ZorStatus (*run)(const void* src, void* dst, const void* spec, int order, int scaleFactor, Zor8u* buffer);
+    ZorStatus (*runInPlace)(void* data, const void* spec, int order, int scaleFactor,
+                            Zor8u* buffer); // or null
+
+    // What the transform computes with: 2^-23 or 2^-52.
+    double epsilon() const;
+};
+
+const std::vector<Transform>& transforms();
+
+// All N points from and to the numbers of a format. Real numbers are points without imaginary parts; a spectrum's
+// second half is the mirror of its first.
+std::vector<Wide> numbersFrom(const WideVector& points, Format format);
+WideVector pointsFrom(const std::vector<Wide>& numbers, Format format);
+
+// Numbers as they lie in memory, and back. Integers are rounded and saturated.
+void writeNumbers(const std::vector<Wide>& numbers, Number number, void* memory);
+std::vector<Wide> readNumbers(const void* memory, Number number, std::size_t count);
+
+} // namespace zors::test
