@@ -76,6 +76,10 @@ void compare(const std::string& operation, const std::vector<int>& lengths,
             row.contenders.push_back(contender.name);
             auto body = [prepare = contender.prepare, length](benchmark::State& state) {
                 const Operation operate = prepare(length);
+                if (!operate) {
+                    state.SkipWithError("not offered");
+                    return;
+                }
                 for (auto _ : state) {
                     operate();
                     benchmark::ClobberMemory();

@@ -7,7 +7,8 @@
 
 namespace zors::bench {
 
-// Runs an operation once over a vector of a length; made for each length, with its own buffers.
+// Runs an operation once over a vector of a length; made for each length, with its own buffers. Empty where a
+// contender does not offer it.
 using Operation = std::function<void()>;
 
 struct Contender {
