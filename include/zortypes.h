@@ -156,19 +156,19 @@ enum {
  * Opaque: made by zorsFFTInit or zorsFFTInitAlloc, one type for each kind of data.
  * @{
  */
-typedef struct ZorsFFTSpec_C_16sc ZorsFFTSpec_C_16sc;
-typedef struct ZorsFFTSpec_C_16s ZorsFFTSpec_C_16s;
-typedef struct ZorsFFTSpec_R_16s ZorsFFTSpec_R_16s;
-typedef struct ZorsFFTSpec_C_32fc ZorsFFTSpec_C_32fc;
-typedef struct ZorsFFTSpec_C_32f ZorsFFTSpec_C_32f;
-typedef struct ZorsFFTSpec_R_32f ZorsFFTSpec_R_32f;
-typedef struct ZorsFFTSpec_C_64fc ZorsFFTSpec_C_64fc;
-typedef struct ZorsFFTSpec_C_64f ZorsFFTSpec_C_64f;
-typedef struct ZorsFFTSpec_R_64f ZorsFFTSpec_R_64f;
-typedef struct ZorsFFTSpec_C_32sc ZorsFFTSpec_C_32sc;
-typedef struct ZorsFFTSpec_C_32s ZorsFFTSpec_C_32s;
-typedef struct ZorsFFTSpec_R_32s ZorsFFTSpec_R_32s;
-typedef struct ZorsFFTSpec_R_16s32s ZorsFFTSpec_R_16s32s;
+typedef struct ZorsFFTSpec_C_16sc ZorsFFTSpec_C_16sc;     /**< complex `16sc` */
+typedef struct ZorsFFTSpec_C_16s ZorsFFTSpec_C_16s;       /**< complex, parts apart, `16s` */
+typedef struct ZorsFFTSpec_R_16s ZorsFFTSpec_R_16s;       /**< real `16s` */
+typedef struct ZorsFFTSpec_C_32fc ZorsFFTSpec_C_32fc;     /**< complex `32fc` */
+typedef struct ZorsFFTSpec_C_32f ZorsFFTSpec_C_32f;       /**< complex, parts apart, `32f` */
+typedef struct ZorsFFTSpec_R_32f ZorsFFTSpec_R_32f;       /**< real `32f` */
+typedef struct ZorsFFTSpec_C_64fc ZorsFFTSpec_C_64fc;     /**< complex `64fc` */
+typedef struct ZorsFFTSpec_C_64f ZorsFFTSpec_C_64f;       /**< complex, parts apart, `64f` */
+typedef struct ZorsFFTSpec_R_64f ZorsFFTSpec_R_64f;       /**< real `64f` */
+typedef struct ZorsFFTSpec_C_32sc ZorsFFTSpec_C_32sc;     /**< complex `32sc` */
+typedef struct ZorsFFTSpec_C_32s ZorsFFTSpec_C_32s;       /**< complex, parts apart, `32s` */
+typedef struct ZorsFFTSpec_R_32s ZorsFFTSpec_R_32s;       /**< real `32s` */
+typedef struct ZorsFFTSpec_R_16s32s ZorsFFTSpec_R_16s32s; /**< real `16s`, spectrum `32s` */
 /** @} */
 
 /** The version record that zorsGetLibVersion() returns. */

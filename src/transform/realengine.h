@@ -9,15 +9,16 @@ enum class Packing { ccs, pack, perm };
 
 // For the orders without tables; one number more than they have.
 template <class T, bool Forward, int Order>
-inline constexpr auto smallRecombination = [] {
-    constexpr std::ptrdiff_t count = recombinationFactors<T>(Order);
-    std::array<T, 2 * count + 2> factors{};
-    fillRecombination<Forward>(Order, smallWave<T>, factors.data());
-    const Cx<T> last = recombinationFactor<Forward>(smallWave<T>(count, Order));
-    factors[2 * count] = last.re;
-    factors[2 * count + 1] = last.im;
-    return factors;
-}();
+[[gnu::visibility("hidden")]] inline constexpr std::array<T, 2 * recombinationFactors<T>(Order) + 2>
+    smallRecombination = [] {
+        constexpr std::ptrdiff_t count = recombinationFactors<T>(Order);
+        std::array<T, 2 * count + 2> factors{};
+        fillRecombination<Forward>(Order, smallWave<T>, factors.data());
+        const Cx<T> last = recombinationFactor<Forward>(smallWave<T>(count, Order));
+        factors[2 * count] = last.re;
+        factors[2 * count + 1] = last.im;
+        return factors;
+    }();
 
 template <bool Forward, class T>
 inline void recombine(const FloatRecord<T>& spec, const T* from, T* to)

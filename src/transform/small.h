@@ -10,8 +10,9 @@ inline constexpr int mostSmallOrder = 5;
 template <class T>
 inline constexpr Wave<T> smallWave{5, sines32<T>};
 
+// Hidden by name: the compiler's option hides functions, but not variables of a type of the standard library's.
 template <class T, int Order>
-inline constexpr auto smallFactors = [] {
+[[gnu::visibility("hidden")]] inline constexpr std::array<T, 2 * sortedFactors<T>(Order)> smallFactors = [] {
     std::array<T, 2 * sortedFactors<T>(Order)> factors{};
     fillTurn<T, lanesForOrder<T>(Order)>(Order, smallWave<T>, factors.data());
     return factors;

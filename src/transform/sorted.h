@@ -8,7 +8,6 @@
 #include "sines.h"
 
 #include <array>
-#include <bit>
 
 namespace zors::ZORS_VARIANT {
 
@@ -23,7 +22,9 @@ constexpr int lanesForOrder(int order)
 
 constexpr int log2Of(int powerOfTwo)
 {
-    return std::countr_zero(static_cast<unsigned>(powerOfTwo));
+    int log = 0;
+    while (1 << log < powerOfTwo) ++log;
+    return log;
 }
 
 // The last pass takes a block of W rows k and transforms their W points l in two steps, so that no more vectors are

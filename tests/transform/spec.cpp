@@ -188,7 +188,7 @@ TEST(Statuses, OfInitAllocFreeAndGetBufSize)
 TEST(Records, LiveInMemoryOfTheCaller)
 {
     for (const Kind& k : kinds())
-        for (const std::size_t offset : {0, 1, 63}) {
+        for (const std::size_t offset : {0U, 1U, 63U}) {
             const Sizes sizes = sizesOf(k, 12);
             Memory memory(static_cast<std::size_t>(sizes.spec) + 64);
             Memory scratch(static_cast<std::size_t>(sizes.init) + 64);
