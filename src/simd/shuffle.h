@@ -123,6 +123,17 @@ inline Vec<ElementOf<V>, lanesOf<V> / 2> firstHalf(V v)
     (std::make_integer_sequence<int, lanesOf<V> / 2>{});
 }
 
+// A shorter vector over and over.
+template <int N, class V>
+inline Vec<ElementOf<V>, N> repeated(V v)
+{
+    return [=]<int... I>(std::integer_sequence<int, I...>)
+    {
+        return __builtin_shufflevector(v, v, (I % lanesOf<V>)...);
+    }
+    (std::make_integer_sequence<int, N>{});
+}
+
 // The lanes of a, then those of b.
 template <class V>
 inline Vec<ElementOf<V>, 2 * lanesOf<V>> concatenated(V a, V b)

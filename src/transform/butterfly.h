@@ -4,6 +4,8 @@
 
 #include "simd/fused.h"
 
+#include <utility>
+
 namespace zors::ZORS_VARIANT {
 
 template <class V>
@@ -45,7 +47,7 @@ struct Scalar<double> {
 
 inline constexpr double sqrtHalf = 0.70710678118654752440;
 inline constexpr double cosPi8 = 0.92387953251128675613;
-inline constexpr double sinPi8 = 0.38268343236508977173;
+inline constexpr double tanPi8 = 0.41421356237309504880;
 
 template <class V>
 [[gnu::always_inline]] inline Cx<V> timesMinusI(Cx<V> a)
@@ -53,30 +55,25 @@ template <class V>
     return {a.im, -a.re};
 }
 
-// Times e^(-2 pi i Sixteenths / 16) for the angles that butterflies need.
+// a times e^(-2 pi i Sixteenths / 16), short of a positive factor that all of the same parity have in common: 1 or
+// sqrt(1/2) where it is even, cos(pi/8) where it is odd. What is added to it takes the factor along.
 template <int Sixteenths, class V>
-[[gnu::always_inline]] inline Cx<V> rotated(Cx<V> a)
+[[gnu::always_inline]] inline Cx<V> turned(Cx<V> a)
 {
     using T = typename Scalar<V>::type;
-    const V h = constant<V>(static_cast<T>(sqrtHalf));
-    const V c = constant<V>(static_cast<T>(cosPi8)), s = constant<V>(static_cast<T>(sinPi8));
-    switch (Sixteenths) {
-    case 0:
+    const V t = constant<V>(static_cast<T>(tanPi8));
+    if constexpr (Sixteenths == 0)
         return a;
-    case 1:
-        return times(a, {c, -s});
-    case 2:
-        return {h * (a.re + a.im), h * (a.im - a.re)};
-    case 3:
-        return times(a, {s, -c});
-    case 4:
+    else if constexpr (Sixteenths == 1)
+        return {mulAdd(t, a.im, a.re), subMul(a.im, t, a.re)};
+    else if constexpr (Sixteenths == 2)
+        return {a.re + a.im, a.im - a.re};
+    else if constexpr (Sixteenths == 3)
+        return {mulAdd(t, a.re, a.im), mulSub(t, a.im, a.re)};
+    else if constexpr (Sixteenths == 4)
         return timesMinusI(a);
-    case 6:
-        return {h * (a.im - a.re), -(h * (a.re + a.im))};
-    default:
-        static_assert(Sixteenths < 5 || Sixteenths == 6 || Sixteenths == 9);
-        return times(a, {-c, s});
-    }
+    else
+        return timesMinusI(turned<Sixteenths - 4>(a));
 }
 
 template <class V>
@@ -106,10 +103,40 @@ template <class V>
     b = {subMul(x.re, h, y.re), subMul(x.im, h, y.im)};
 }
 
+// The transform of a, b times w and so on, w = e^(-2 pi i S / 16).
+template <int S, class V>
+[[gnu::always_inline]] inline void dft2Turned(Cx<V>& a, Cx<V>& b)
+{
+    using T = typename Scalar<V>::type;
+    b = turned<S>(b);
+    if constexpr (S % 4 == 0)
+        dft2(a, b);
+    else
+        addScaled(a, b, constant<V>(static_cast<T>(sqrtHalf)));
+}
+
+template <int S, class V>
+[[gnu::always_inline]] inline void dft4Turned(Cx<V>& a, Cx<V>& b, Cx<V>& c, Cx<V>& d)
+{
+    if constexpr (S == 0) {
+        dft4(a, b, c, d);
+    } else {
+        using T = typename Scalar<V>::type;
+        dft2Turned<2 * S>(a, c);
+        const Cx<V> x = turned<S>(b), y = turned<3 * S>(d);
+        const V scale = constant<V>(static_cast<T>(S % 2 ? cosPi8 : sqrtHalf));
+        Cx<V> sum = x + y, difference = timesMinusI(x - y);
+        addScaled(a, sum, scale);
+        addScaled(c, difference, scale);
+        b = c;
+        c = sum;
+        d = difference;
+    }
+}
+
 template <int R, class V>
 [[gnu::always_inline]] inline void dft(Cx<V> (&x)[R])
 {
-    using T = typename Scalar<V>::type;
     if constexpr (R == 1) {
     } else if constexpr (R == 2) {
         dft2(x[0], x[1]);
@@ -118,41 +145,26 @@ template <int R, class V>
     } else if constexpr (R == 8) {
         dft4(x[0], x[2], x[4], x[6]);
         dft4(x[1], x[3], x[5], x[7]);
-        const V h = constant<V>(static_cast<T>(sqrtHalf));
-        Cx<V> b = {x[3].re + x[3].im, x[3].im - x[3].re};
-        Cx<V> c = timesMinusI(x[5]);
-        Cx<V> d = {x[7].im - x[7].re, -x[7].re - x[7].im};
-        Cx<V> a = x[1], e0 = x[0], e1 = x[2], e2 = x[4], e3 = x[6];
-        dft2(e0, a);
-        addScaled(e1, b, h);
-        dft2(e2, c);
-        addScaled(e3, d, h);
-        x[0] = e0, x[1] = e1, x[2] = e2, x[3] = e3;
-        x[4] = a, x[5] = b, x[6] = c, x[7] = d;
+        dft2(x[0], x[1]);
+        dft2Turned<2>(x[2], x[3]);
+        dft2Turned<4>(x[4], x[5]);
+        dft2Turned<6>(x[6], x[7]);
+        const Cx<V> a = x[1], b = x[2], c = x[3], d = x[4], e = x[5], f = x[6];
+        x[1] = b, x[2] = d, x[3] = f;
+        x[4] = a, x[5] = c, x[6] = e;
     } else {
         static_assert(R == 16);
 #pragma GCC unroll 4
         for (int i = 0; i < 4; ++i) dft4(x[i], x[i + 4], x[i + 8], x[i + 12]);
-        x[5] = rotated<1>(x[5]);
-        x[6] = rotated<2>(x[6]);
-        x[7] = rotated<3>(x[7]);
-        x[9] = rotated<2>(x[9]);
-        x[10] = rotated<4>(x[10]);
-        x[11] = rotated<6>(x[11]);
-        x[13] = rotated<3>(x[13]);
-        x[14] = rotated<6>(x[14]);
-        x[15] = rotated<9>(x[15]);
-#pragma GCC unroll 4
-        for (int k = 0; k < 4; ++k) dft4(x[4 * k], x[4 * k + 1], x[4 * k + 2], x[4 * k + 3]);
-            // The rows are the residues of the result's index: change places with the columns.
+        dft4(x[0], x[1], x[2], x[3]);
+        dft4Turned<1>(x[4], x[5], x[6], x[7]);
+        dft4Turned<2>(x[8], x[9], x[10], x[11]);
+        dft4Turned<3>(x[12], x[13], x[14], x[15]);
+        // The rows are the residues of the result's index: change places with the columns.
 #pragma GCC unroll 4
         for (int i = 0; i < 4; ++i)
 #pragma GCC unroll 4
-            for (int k = 0; k < i; ++k) {
-                const Cx<V> t = x[4 * i + k];
-                x[4 * i + k] = x[4 * k + i];
-                x[4 * k + i] = t;
-            }
+            for (int k = 0; k < i; ++k) std::swap(x[4 * i + k], x[4 * k + i]);
     }
 }
 

@@ -8,6 +8,8 @@
 #include "sines.h"
 
 #include <array>
+#include <type_traits>
+#include <utility>
 
 namespace zors::ZORS_VARIANT {
 
@@ -29,38 +31,53 @@ constexpr int log2Of(int powerOfTwo)
 
 // The last pass takes a block of W rows k and transforms their W points l in two steps, so that no more vectors are
 // in use than there are registers. A vector has A blocks of B lanes, so W = A B, l = B a + i. First, for the rows
-// B c + b of each b, c becomes the place of a block and a that of a row, and A points are transformed; then b and i
-// change places, and B points are transformed. The rows are taken in the order of lanes that ports store fastest.
+// B c + b of each b, c becomes the place of a block and a that of a row, the points are multiplied by
+// e^(-2 pi i k l / N), and A of them are transformed; then b and i change places, and B points are transformed, whose
+// factors are constants. The rows are taken in the order of lanes that ports store fastest.
 template <class T, int W>
 struct Turn {
     static constexpr int blocks = blocksOf<Vec<T, W>>;
     static constexpr int lanes = lanesOfBlock<Vec<T, W>>;
+    // Rows from b = 0 to b = 1 of any c.
+    static constexpr int step = rowOfLane<T, W>(1) - rowOfLane<T, W>(0);
+    // With a block a row there is no first step, and the factors for i = 0 are 1. With more, the factors of a = 0
+    // and b = 1 are those of b = 0 times e^(-2 pi i step i / N): that keeps the table below N numbers.
+    static constexpr bool twoSteps = blocks > 1;
 };
 
-// Factors: for each block of rows and b, those of a = 1..A - 1, e^(-2 pi i k B a / N); then for i = 1..B - 1,
-// e^(-2 pi i k i / N), in both k being the row of a lane. Real parts, then imaginary ones.
+// Factors: for each block of rows, b and a those of k l, real parts of a vector, then imaginary ones. With one step
+// for i = 1..B - 1. Behind all, in two steps, the B factors that lead to the next row.
+template <class T>
 constexpr std::ptrdiff_t turnFactors(std::ptrdiff_t rows, int width)
 {
-    return rows * (width - 1);
+    constexpr int each = 16 / static_cast<int>(sizeof(T));
+    return rows * (width - 1) + (width > each ? each : 0);
 }
 
 template <class T, int W>
 constexpr void fillTurn(int order, const Wave<T>& wave, T* p)
 {
-    constexpr int blocks = Turn<T, W>::blocks, lanes = Turn<T, W>::lanes;
+    using Turn = Turn<T, W>;
     const std::ptrdiff_t rows = (std::ptrdiff_t{1} << order) / W;
-    const auto put = [&](int lane, Cx<T> w) {
-        p[lane] = w.re;
-        p[W + lane] = w.im;
+    const auto put = [&](T* vector, int width, int lane, std::ptrdiff_t power) {
+        const Cx<T> w = wave(power, order);
+        vector[lane] = w.re;
+        vector[width + lane] = w.im;
     };
-    for (std::ptrdiff_t block = 0; block < rows; block += W) {
-        for (int b = 0; b < lanes; ++b)
-            for (int a = 1; a < blocks; ++a, p += 2 * W)
-                for (int lane = 0; lane < W; ++lane)
-                    put(lane, wave((block + rowOfLane<T, W>(lane / lanes * lanes + b)) * lanes * a, order));
-        for (int i = 1; i < lanes; ++i, p += 2 * W)
-            for (int lane = 0; lane < W; ++lane) put(lane, wave((block + rowOfLane<T, W>(lane)) * i, order));
-    }
+    for (std::ptrdiff_t block = 0; block < rows; block += W)
+        if constexpr (Turn::twoSteps) {
+            for (int b = 0; b < Turn::lanes; ++b)
+                for (int a = b == 1 ? 1 : 0; a < Turn::blocks; ++a, p += 2 * W)
+                    for (int lane = 0; lane < W; ++lane) {
+                        const int i = lane % Turn::lanes, l = a * Turn::lanes + i;
+                        put(p, W, lane, (block + rowOfLane<T, W>(lane - i + b)) * l);
+                    }
+        } else {
+            for (int i = 1; i < W; ++i, p += 2 * W)
+                for (int lane = 0; lane < W; ++lane) put(p, W, lane, (block + rowOfLane<T, W>(lane)) * i);
+        }
+    if constexpr (Turn::twoSteps)
+        for (int i = 0; i < Turn::lanes; ++i) put(p, Turn::lanes, i, Turn::step * i);
 }
 
 template <class T, int W>
@@ -69,59 +86,103 @@ template <class T, int W>
     return {load<W>(factors + 2 * W * i), load<W>(factors + 2 * W * i + W)};
 }
 
-// The second step of one of the A results of the first, q, to the rows q + A j.
-template <int W, int Q, class T, class Out>
-[[gnu::always_inline]] inline void turnInside(const Cx<Vec<T, W>>* x, Out out, const T* factors)
+// What leads from the factors of a row to those of the next, for all blocks of the table.
+template <class T, int W>
+inline Cx<Vec<T, W>> nextRow(const T* factors, std::ptrdiff_t rows)
 {
-    constexpr int blocks = Turn<T, W>::blocks, lanes = Turn<T, W>::lanes;
-    Vec<T, W> re[lanes], im[lanes];
-#pragma GCC unroll 4
-    for (int b = 0; b < lanes; ++b) re[b] = x[b].re, im[b] = x[b].im;
-    transposeInside(re);
-    transposeInside(im);
-    Cx<Vec<T, W>> y[lanes];
-    y[0] = {re[0], im[0]};
-    y[1] = times({re[1], im[1]}, rotated<Q * 16 / W>(factorAt<T, W>(factors, 0)));
-    if constexpr (lanes == 4) {
-        y[2] = times({re[2], im[2]}, rotated<2 * Q * 16 / W>(factorAt<T, W>(factors, 1)));
-        y[3] = times({re[3], im[3]}, rotated<3 * Q * 16 / W>(factorAt<T, W>(factors, 2)));
+    if constexpr (Turn<T, W>::twoSteps) {
+        constexpr int each = Turn<T, W>::lanes;
+        const T* p = factors + 2 * rows * (W - 1);
+        return {repeated<W>(load<each>(p)), repeated<W>(load<each>(p + each))};
+    } else {
+        return {Vec<T, W>{}, Vec<T, W>{}};
     }
-    dft<lanes>(y);
-#pragma GCC unroll 4
-    for (int j = 0; j < lanes; ++j) out.putTurned(Q + blocks * j, y[j]);
+}
+
+// Stages first(n) and second(n), n = 0..N - 1, each with a constant. Where there are registers enough the shuffles
+// of a first stage come before the arithmetic of the second one before it: the processor looks ahead by little more
+// than a stage, and one of shuffles alone would keep the multipliers waiting.
+template <int N, class First, class Second>
+[[gnu::always_inline]] inline void staggered(First first, Second second)
+{
+    constexpr int ahead = ZORS_VECTOR_BYTES == 64 ? 1 : 0;
+    const auto step = [&](auto n) __attribute__((always_inline))
+    {
+        if constexpr (n < N) first(n);
+        if constexpr (n >= ahead) second(std::integral_constant<int, n - ahead>{});
+    };
+    [&]<int... I>(std::integer_sequence<int, I...>) __attribute__((always_inline))
+    {
+        (step(std::integral_constant<int, I>{}), ...);
+    }
+    (std::make_integer_sequence<int, N + ahead>{});
 }
 
 // The last pass over one block of W rows.
 template <int W, class T, class In, class Out>
-[[gnu::always_inline]] inline void turnBlock(const In& in, const Out& out, const T* factors)
+[[gnu::always_inline]] inline void turnBlock(const In& in, const Out& out, const T* factors,
+                                             Cx<Vec<T, W>> next)
 {
+    using V = Vec<T, W>;
     constexpr int blocks = Turn<T, W>::blocks, lanes = Turn<T, W>::lanes;
-    Cx<Vec<T, W>> x[blocks][lanes];
-#pragma GCC unroll 4
-    for (int b = 0; b < lanes; ++b) {
-        Vec<T, W> re[blocks], im[blocks];
+    constexpr bool twoSteps = Turn<T, W>::twoSteps;
+    Cx<V> x[blocks][lanes], y[lanes][blocks], z[blocks][lanes];
+
+    const auto takeRows = [&](auto b) __attribute__((always_inline))
+    {
+        V re[blocks], im[blocks];
 #pragma GCC unroll 4
         for (int c = 0; c < blocks; ++c) {
-            const Cx<Vec<T, W>> v = in.get(rowOfLane<T, W>(lanes * c + b));
+            const Cx<V> v = in.get(rowOfLane<T, W>(lanes * c + b));
             re[c] = v.re, im[c] = v.im;
         }
         transposeBlocks(re);
         transposeBlocks(im);
-        Cx<Vec<T, W>> y[blocks];
-        y[0] = {re[0], im[0]};
 #pragma GCC unroll 4
-        for (int a = 1; a < blocks; ++a, factors += 2 * W)
-            y[a] = times({re[a], im[a]}, factorAt<T, W>(factors, 0));
-        dft<blocks>(y);
+        for (int a = 0; a < blocks; ++a) y[b][a] = {re[a], im[a]};
+    };
+    const auto transformBlocks = [&](auto b) __attribute__((always_inline))
+    {
+        if constexpr (twoSteps) {
 #pragma GCC unroll 4
-        for (int q = 0; q < blocks; ++q) x[q][b] = y[q];
-    }
-    turnInside<W, 0>(x[0], out, factors);
-    if constexpr (blocks > 1) turnInside<W, 1>(x[1], out, factors);
-    if constexpr (blocks > 2) {
-        turnInside<W, 2>(x[2], out, factors);
-        turnInside<W, 3>(x[3], out, factors);
-    }
+            for (int a = 0; a < blocks; ++a) {
+                const auto factor = b == 1 && a == 0
+                                        ? times(factorAt<T, W>(factors, 0), next)
+                                        : factorAt<T, W>(factors, b * blocks + a - (b > 0 ? 1 : 0));
+                y[b][a] = times(y[b][a], factor);
+            }
+        }
+        dft<blocks>(y[b]);
+#pragma GCC unroll 4
+        for (int q = 0; q < blocks; ++q) x[q][b] = y[b][q];
+    };
+    staggered<lanes>(takeRows, transformBlocks);
+
+    const auto turnInside = [&](auto q) __attribute__((always_inline))
+    {
+        V re[lanes], im[lanes];
+#pragma GCC unroll 4
+        for (int b = 0; b < lanes; ++b) re[b] = x[q][b].re, im[b] = x[q][b].im;
+        transposeInside(re);
+        transposeInside(im);
+#pragma GCC unroll 4
+        for (int i = 0; i < lanes; ++i) z[q][i] = {re[i], im[i]};
+    };
+    // To the rows q + A j.
+    const auto transformInside = [&](auto q) __attribute__((always_inline))
+    {
+        if constexpr (!twoSteps) {
+#pragma GCC unroll 4
+            for (int i = 1; i < lanes; ++i) z[q][i] = times(z[q][i], factorAt<T, W>(factors, i - 1));
+        }
+        if constexpr (lanes == 4)
+            dft4Turned<q * 16 / W>(z[q][0], z[q][1], z[q][2], z[q][3]);
+        else
+            dft2Turned<q * 16 / W>(z[q][0], z[q][1]);
+#pragma GCC unroll 4
+        for (int j = 0; j < lanes; ++j) out.putTurned(q + blocks * j, z[q][j]);
+    };
+    staggered<blocks>(turnInside, transformInside);
 }
 
 // The last pass over some blocks, first, first + step, ... of all; in begins with their rows.
@@ -130,9 +191,10 @@ template <int W, class T, class Out>
                             std::ptrdiff_t step, const T* factors)
 {
     const Stride one = in.stride(1), outStride = out.stride(all);
+    const auto next = nextRow<T, W>(factors, all * W);
     for (std::ptrdiff_t i = 0, block = first; block < all; ++i, block += step)
         turnBlock<W>(in.template from<W>(i * W, one), out.template from<W>(block, outStride),
-                     factors + block * 2 * W * (W - 1));
+                     factors + block * 2 * W * (W - 1), next);
 }
 
 // The last pass over columns and the turn at once, by the rows that depend on one another.
@@ -167,10 +229,11 @@ template <int W, int M, class T, class In, class Out>
 #pragma GCC unroll 16
     for (int t = 0; t < M; ++t) x[t] = src.get(t);
     dft<M>(x);
+    const auto next = nextRow<T, W>(factors, M);
 #pragma GCC unroll 16
     for (int block = 0; block < M / W; ++block)
         turnBlock<W>(Held<V>{x + block * W}, out.template closeFrom<M / W>(block),
-                     factors + block * 2 * W * (W - 1));
+                     factors + block * 2 * W * (W - 1), next);
 }
 
 // Factors of a transform: of the last pass, then of the columns.
@@ -178,7 +241,7 @@ template <class T>
 constexpr std::ptrdiff_t sortedFactors(int order)
 {
     const int width = lanesForOrder<T>(order), m = order - log2Of(width);
-    return turnFactors(std::ptrdiff_t{1} << m, width) + (m > 4 ? columnFactors(m) : 0);
+    return turnFactors<T>(std::ptrdiff_t{1} << m, width) + (m > 4 ? columnFactors(m) : 0);
 }
 
 template <class T>
@@ -206,7 +269,7 @@ inline void fillSorted(int order, const Wave<T>& wave, T* p)
         fillTurn<T, lanes<T>>(order, wave, p);
     else
         fillTurn<T, lanes<T> / 2>(order, wave, p);
-    if (m > 4) fillColumns(m, wave, p + 2 * turnFactors(std::ptrdiff_t{1} << m, width));
+    if (m > 4) fillColumns(m, wave, p + 2 * turnFactors<T>(std::ptrdiff_t{1} << m, width));
 }
 
 template <int W, class T, class In, class Out, class Room>
@@ -219,7 +282,7 @@ inline void sortedTransform(int order, In in, Out out, Room room, T* work, const
     if (m == 4) return inRegisters<W, 16>(in, out, factors);
     const std::ptrdiff_t rows = std::ptrdiff_t{1} << m;
     const Rows<T, W> own{work};
-    const T* ofColumns = factors + 2 * turnFactors(rows, W);
+    const T* ofColumns = factors + 2 * turnFactors<T>(rows, W);
     if (m <= 2 * mostLevels) {
         columns<W>(m, in, own, room, own, ofColumns);
         turn<W>(own, out, rows / W, 0, 1, factors);

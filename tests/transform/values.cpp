@@ -34,7 +34,7 @@ TEST_P(Values, DoNotDependOnPlaceAndBuffer)
         ASSERT_EQ(t.kind->getBufSize(spec.get(), &size), zorStsOk);
         const std::size_t inStep = zors::test::bytesOf(t.in.number),
                           outStep = zors::test::bytesOf(t.out.number);
-        for (const std::size_t place : {0, 1, 3, 5}) {
+        for (const std::size_t place : {0U, 1U, 3U, 5U}) {
             Memory movedIn(inBytes + 64), movedOut(outBytes + 64), work(static_cast<std::size_t>(size) + 64);
             auto* src = static_cast<std::byte*>(movedIn.get()) + place * inStep;
             auto* dst = static_cast<std::byte*>(movedOut.get()) + place * outStep;
