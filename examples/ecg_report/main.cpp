@@ -1,4 +1,5 @@
-// Reports on an electrocardiogram: statistics as text, the recording without its offset as WAV, a picture of it.
+// Reports on an electrocardiogram: statistics and heart rate as text, the recording without its offset as WAV, pictures
+// of it and of its spectrum.
 #include "plot.h"
 #include "report.h"
 #include "statistics.h"
@@ -50,10 +51,16 @@ void run(const Arguments& arguments)
 
     fs::create_directories(arguments.out);
     const fs::path stem = arguments.out / arguments.input.stem();
-    const fs::path wav = stem.string() + "_centred.wav", png = stem.string() + ".png";
+    const auto file = [&](const char* ending) { return fs::path(stem.string() + ending); };
+    const fs::path wav = file("_centred.wav"), trace = file(".png"), spectrum = file("_spectrum.png"),
+                   spectrogram = file("_spectrogram.png");
+    const std::string caption = captionOf(arguments.input);
     ecg::writeWav(wav, recording);
-    ecg::drawRecording(png, recording, captionOf(arguments.input));
-    std::printf("\nwithout offset: %s\ndrawn:          %s\n", wav.c_str(), png.c_str());
+    ecg::drawRecording(trace, recording, caption);
+    ecg::drawSpectrum(spectrum, recording, caption);
+    ecg::drawSpectrogram(spectrogram, recording, caption);
+    std::printf("\nwithout offset: %s\ntrace:          %s\nspectrum:       %s\nspectrogram:    %s\n",
+                wav.c_str(), trace.c_str(), spectrum.c_str(), spectrogram.c_str());
     if (std::fflush(stdout) != 0 || std::ferror(stdout))
         throw ecg::Error("cannot write to the standard output");
 }

@@ -1,4 +1,4 @@
-// The recording as a picture.
+// The recording in pictures. Each draws all channels into a PNG.
 #pragma once
 
 #include "recording.h"
@@ -7,7 +7,14 @@
 
 namespace ecg {
 
-// Draws each channel into a PNG by gnuplot: the whole of it as an envelope, and the first ten seconds.
+// The trace: the whole of it as an envelope, and the first ten seconds.
 void drawRecording(const std::filesystem::path& png, const Recording& recording, const std::string& caption);
+
+// The power spectrum, and that of the activity, with the heart rate.
+void drawSpectrum(const std::filesystem::path& png, const Recording& recording, const std::string& caption);
+
+// The power spectrum as it changes with time.
+void drawSpectrogram(const std::filesystem::path& png, const Recording& recording,
+                     const std::string& caption);
 
 } // namespace ecg

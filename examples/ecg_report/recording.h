@@ -3,6 +3,7 @@
 
 #include "vector.h"
 
+#include <string>
 #include <vector>
 
 namespace ecg {
@@ -15,6 +16,12 @@ struct Recording {
 
     int len() const { return channels.front().len(); }
     double seconds() const { return static_cast<double>(len()) / rate; }
+
+    // What stands before the title of a channel's picture.
+    std::string prefix(std::size_t channel) const
+    {
+        return channels.size() == 1 ? "" : "channel " + std::to_string(channel + 1) + ", ";
+    }
 };
 
 } // namespace ecg

@@ -1,5 +1,6 @@
 #include "report.h"
 
+#include "pulse.h"
 #include "statistics.h"
 #include "transcoding.h"
 
@@ -45,6 +46,14 @@ void printTranscoding(const Channel& channel)
                 transcoding.aLaw);
 }
 
+void printPulse(const Channel& channel, int rate)
+{
+    if (const auto hertz = pulseOf(channel, rate).hertz)
+        std::printf("heart rate: %.1f beats per minute (%.3f Hz)\n", 60 * *hertz, *hertz);
+    else
+        std::printf("heart rate: none found\n");
+}
+
 } // namespace
 
 void printReport(const std::string& name, const Recording& recording)
@@ -58,6 +67,7 @@ void printReport(const std::string& name, const Recording& recording)
             std::printf("\nchannel %zu\n", i + 1);
         printChannel(recording.channels[i], recording.rate);
         printTranscoding(recording.channels[i]);
+        printPulse(recording.channels[i], recording.rate);
     }
 }
 

@@ -7,7 +7,8 @@
 
 namespace ecg {
 
-// Prints duration, statistics, in all and for each ten seconds, and losses by transcoding to the standard output.
+// Prints to the standard output: duration, statistics, in all and for each ten seconds, losses by transcoding, and the
+// heart rate.
 void printReport(const std::string& name, const Recording& recording);
 
 } // namespace ecg

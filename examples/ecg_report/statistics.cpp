@@ -19,6 +19,15 @@ Statistics statisticsOf(std::span<const Zor32f> signal)
     return {mean, stdDev, rangeOf(signal)};
 }
 
+double energyOf(const Channel& signal)
+{
+    Channel squares(signal.len());
+    Zor32f sum = 0;
+    require(zorsMul_32f(signal.data(), signal.data(), squares.data(), signal.len()), "square a signal");
+    require(zorsSum_32f(squares.data(), squares.len(), &sum, ZOR_ALG_PRECISION), "sum a signal");
+    return static_cast<double>(sum);
+}
+
 void removeOffset(Channel& channel)
 {
     const Zor32f offset = statisticsOf(channel.all()).mean;

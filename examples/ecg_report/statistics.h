@@ -21,6 +21,9 @@ struct Statistics {
 Range rangeOf(std::span<const Zor32f> signal);
 Statistics statisticsOf(std::span<const Zor32f> signal);
 
+// The sum of the squares.
+double energyOf(const Channel& signal);
+
 // Makes the mean of the channel 0.
 void removeOffset(Channel& channel);
 

@@ -1,20 +1,11 @@
 #include "transcoding.h"
 
+#include "decibels.h"
 #include "samples.h"
-
-#include <cmath>
+#include "statistics.h"
 
 namespace ecg {
 namespace {
-
-// The energy of a signal, which is squared in place.
-double energyOf(Vector<Zor32f>& signal)
-{
-    Zor32f sum = 0;
-    require(zorsMul_32f_I(signal.data(), signal.data(), signal.len()), "square a signal");
-    require(zorsSum_32f(signal.data(), signal.len(), &sum, ZOR_ALG_PRECISION), "sum a signal");
-    return static_cast<double>(sum);
-}
 
 using Encoder = ZorStatus (*)(const Zor16s* pSrc, Zor8u* pDst, int len);
 using Decoder = ZorStatus (*)(const Zor8u* pSrc, Zor16s* pDst, int len);
@@ -31,7 +22,7 @@ double signalToNoise(const Vector<Zor16s>& samples, Encoder encode, Decoder deco
     require(zorsConvert_16s32f(samples.data(), signal.data(), len), "convert the samples");
     require(zorsSub_16s32f(samples.data(), decoded.data(), noise.data(), len), "find what was lost");
     const double lost = energyOf(noise);
-    return lost == 0 ? INFINITY : 10 * std::log10(energyOf(signal) / lost);
+    return lost == 0 ? INFINITY : decibels(energyOf(signal) / lost);
 }
 
 } // namespace
