@@ -38,7 +38,7 @@ void draw(const std::string& png, int len)
     std::fprintf(gnuplot, "set terminal pngcairo noenhanced size 1500,%zu font 'DejaVu Sans,12'\n",
                  300 * rows);
     std::fprintf(gnuplot, "set output '%s'\nset multiplot layout %zu,2\n", png.c_str(), rows);
-    std::fprintf(gnuplot, "set grid linecolor rgb '#e4e4e4'\nset tics out nomirror\n");
+    std::fprintf(gnuplot, "set grid linetype 1 linecolor rgb '#e4e4e4'\nset tics out nomirror\n");
     for (const Window& window : allWindows()) sendPanels(gnuplot, window, len);
     std::fprintf(gnuplot, "unset multiplot\nset output\n");
     if (pclose(gnuplot) != 0) throw std::runtime_error("gnuplot failed");

@@ -1,15 +1,15 @@
 #include "windows.h"
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
-#include <numbers>
 #include <stdexcept>
 #include <zorstatus.h>
 
 namespace windows {
 namespace {
 
-constexpr int levelsPerBin = 32;
+constexpr int levelsPerBin = 32;      // at least
 constexpr double floorDecibel = -140; // below it there is only the rounding of single precision
 
 constexpr double kaiserBeta = 8.6;
@@ -29,18 +29,28 @@ void require(ZorStatus status)
     if (status < zorStsOk) throw std::runtime_error(zorGetStatusName(status));
 }
 
-// How strongly a tone comes through: its mean under the window. The tone is a cosine about the centre of the
-// window, so that the symmetry leaves no imaginary part.
-double response(const Window& window, int len, double bin)
+// What the window does to a tone at each frequency from 0 to half the sampling rate, 2^order of them to the rate: the
+// transform of its weights, continued by zeros.
+std::vector<Zor32f> powers(const Window& window, int len, int order)
 {
-    std::vector<Zor32f> tone(static_cast<std::size_t>(len));
-    const double step = 2 * std::numbers::pi * bin / len, centre = (len - 1) / 2.0;
-    for (int n = 0; n < len; ++n)
-        tone[static_cast<std::size_t>(n)] = static_cast<Zor32f>(std::cos(step * (n - centre)));
-    require(window.apply(tone.data(), len));
-    Zor32f mean = 0, deviation = 0;
-    require(zorsMeanStdDev_32f(tone.data(), len, &mean, &deviation));
-    return std::abs(static_cast<double>(mean));
+    const int padded = 1 << order, points = padded / 2 + 1;
+    std::vector<Zor32f> signal = weights(window, len);
+    signal.resize(static_cast<std::size_t>(padded));
+    std::vector<Zor32fc> spectrum(static_cast<std::size_t>(points));
+
+    ZorsFFTSpec_R_32f* spec = nullptr;
+    require(zorsFFTInitAlloc_R_32f(&spec, order, ZOR_FFT_SCALE_NONE, ZOR_ALG_ANY));
+    // The pairs of the spectrum have the layout of complex numbers.
+    const ZorStatus transformed =
+        zorsFFTFwd_RToCCS_32f(signal.data(), reinterpret_cast<Zor32f*>(spectrum.data()), spec, nullptr);
+    require(zorsFFTFree_R_32f(spec));
+    require(transformed);
+
+    std::vector<Zor32f> real(spectrum.size()), imag(spectrum.size());
+    require(zorsCplxToReal_32fc(spectrum.data(), real.data(), imag.data(), points));
+    require(zorsMul_32f_I(real.data(), real.data(), points));
+    require(zorsAddProduct_32f(imag.data(), imag.data(), real.data(), points));
+    return real;
 }
 
 } // namespace
@@ -69,12 +79,13 @@ std::vector<Zor32f> weights(const Window& window, int len)
 
 std::vector<Level> spectrum(const Window& window, int len)
 {
-    const double most = response(window, len, 0);
+    const auto order = static_cast<int>(std::bit_width(static_cast<unsigned>(levelsPerBin * len - 1)));
+    const std::vector<Zor32f> power = powers(window, len, order);
     std::vector<Level> levels;
-    for (int i = 0; i <= levelsPerBin * len / 2; ++i) {
-        const double bin = static_cast<double>(i) / levelsPerBin;
-        const double ratio = response(window, len, bin) / most;
-        levels.push_back({bin, std::max(20 * std::log10(ratio), floorDecibel)});
+    for (const Zor32f value : power) {
+        const double bin = std::ldexp(static_cast<double>(levels.size()) * len, -order);
+        const double decibel = 10 * std::log10(static_cast<double>(value / power.front()));
+        levels.push_back({bin, std::max(decibel, floorDecibel)});
     }
     return levels;
 }
