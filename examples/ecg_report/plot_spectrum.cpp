@@ -46,8 +46,8 @@ void drawPulse(Picture& picture, const Pulse& pulse, const std::string& name)
     if (pulse.hertz) {
         const std::string at = number(*pulse.hertz);
         picture.say("set arrow 2 from " + at + ",0 to " + at + ",1.15 nohead linecolor rgb '#b03030'");
-        picture.say("set label 2 '  " + number(std::round(60 * *pulse.hertz)) + " beats per minute' at " +
-                    at + ",1.07 textcolor rgb '#b03030'");
+        picture.say("set label 2 '  " + number(std::round(60 * *pulse.hertz)) + " beats per minute  ' at " +
+                    at + ",1.07 textcolor rgb '#b03030'" + (*pulse.hertz > mostOfPulse / 2 ? " right" : ""));
     }
     picture.plot(name + "power spectral density of the activity, the smoothed square of the slope",
                  "$pulse with lines linecolor rgb '#1f4e79' notitle");

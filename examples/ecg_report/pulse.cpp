@@ -10,6 +10,7 @@ namespace ecg {
 namespace {
 
 constexpr double slowest = 0.5, fastest = 4; // Hz: 30 to 240 beats per minute
+constexpr double leastBeats = 2;             // of a short recording
 constexpr double resolution = 0.1;           // Hz
 constexpr int fineness = 4;                  // a line half-way between two points would seem 1.4 dB weaker
 
@@ -50,22 +51,21 @@ Channel activityOf(const Channel& channel, int rate)
     return activity;
 }
 
-// Of the strongest peak in the range: the vertex of the parabola through its level and those beside it.
-std::optional<double> strongestFrequency(const Density& density)
+// Of the strongest peak from `least` on: the vertex of the parabola through its level and those beside it.
+std::optional<double> strongestFrequency(const Density& density, double least)
 {
-    const auto power = density.values.all();
-    std::size_t peak = 0;
+    const Zor32f* power = density.values.data();
     const int end = std::min(density.upTo(fastest), density.values.len() - 1);
-    for (auto k = static_cast<std::size_t>(std::ceil(slowest / density.step));
-         k < static_cast<std::size_t>(end); ++k)
+    int peak = 0;
+    for (int k = static_cast<int>(std::ceil(least / density.step)); k < end; ++k)
         if (power[k] > power[k - 1] && power[k] >= power[k + 1] && (peak == 0 || power[k] > power[peak]))
             peak = k;
     if (peak == 0) return std::nullopt;
 
-    const auto level = [&](std::size_t k) { return decibels(std::max(power[k] / power[peak], 1e-6f)); };
+    const auto level = [&](int k) { return decibels(std::max(power[k] / power[peak], 1e-6f)); };
     const double left = level(peak - 1), right = level(peak + 1);
     const double vertex = (left - right) / (2 * (left + right));
-    return density.step * (static_cast<double>(peak) + vertex);
+    return density.step * (peak + vertex);
 }
 
 } // namespace
@@ -74,7 +74,8 @@ Pulse pulseOf(const Channel& channel, int rate)
 {
     const Channel activity = activityOf(channel, rate);
     Density spectrum = Welch(rate, resolution, fineness).densityOf(activity.all());
-    const std::optional<double> hertz = strongestFrequency(spectrum);
+    const double least = std::max(slowest, leastBeats * rate / channel.len());
+    const std::optional<double> hertz = strongestFrequency(spectrum, least);
     return {std::move(spectrum), hertz};
 }
 
