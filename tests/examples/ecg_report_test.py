@@ -47,6 +47,19 @@ def rows(report):
     return [[None if f == "-" else float(f) for f in line.split()] for line in found]
 
 
+def heart_rates(report):
+    return [float(rate) for rate in re.findall(r"^heart rate: ([\d.]+) beats per minute", report, re.MULTILINE)]
+
+
+def beats(rate, seconds, per_minute):
+    """A made electrocardiogram: a QRS complex and a T wave for each beat, on a wandering baseline, with noise."""
+    noise = random.Random(per_minute)
+    for i in range(rate * seconds):
+        t = (i / rate) % (60 / per_minute) - 0.3
+        complexes = 300 * math.exp(-((t / 0.017) ** 2)) + 70 * math.exp(-(((t - 0.2) / 0.07) ** 2))
+        yield round(complexes + 200 * math.sin(i / rate) + noise.gauss(0, 3))
+
+
 def signal_to_noise(samples, decode):
     """In dB if each sample becomes the nearest one that has a code, by Python's decoding tables."""
     levels = sorted(array.array("h", decode(bytes(range(256)), 2)))
@@ -96,11 +109,12 @@ class EcgReport(unittest.TestCase):
             self.assertLess(abs(math.fsum(got) / length), 0.51)
             self.assertLess(max(abs(g - (s - mean)) for g, s in zip(got, samples)), 0.51)
 
-        png = (self.out / f"{name}.png").read_bytes()
-        self.assertEqual(png[:8], b"\x89PNG\r\n\x1a\n")
-        self.assertEqual(struct.unpack(">II", png[16:24]), (1600, 850 * len(channels)))
-        self.assertIn(b"IEND", png[-12:])
-        self.assertGreater(len(png), 15_000 * len(channels))  # an empty frame has less
+        for ending, height, least in ("", 850, 15_000), ("_spectrum", 850, 50_000), ("_spectrogram", 600, 30_000):
+            png = (self.out / f"{name}{ending}.png").read_bytes()
+            self.assertEqual(png[:8], b"\x89PNG\r\n\x1a\n")
+            self.assertEqual(struct.unpack(">II", png[16:24]), (1600, height * len(channels)))
+            self.assertIn(b"IEND", png[-12:])
+            self.assertGreater(len(png), least * len(channels))  # an empty frame has less
 
     def check_failure(self, result, message):
         self.assertEqual(result.returncode, 1)
@@ -111,6 +125,8 @@ class EcgReport(unittest.TestCase):
         self.assertEqual((rate, len(channels[0])), (360, 108_000))
         result = self.run_report()
         self.check_success(result, "ecg_360hz", rate, channels)
+        # 498 beats are counted in the five minutes. The trace itself is strongest at 0.1 and at 2.2 Hz.
+        self.assertAlmostEqual(heart_rates(result.stdout)[0], 498 / 5, delta=2)
         found = re.search(r"mu-law (.*) dB, A-law (.*) dB", result.stdout)
         # Where the step doubles a decision value is not quite half-way between two levels.
         self.assertAlmostEqual(float(found[1]), signal_to_noise(channels[0], audioop.ulaw2lin), delta=0.1)
@@ -125,11 +141,25 @@ class EcgReport(unittest.TestCase):
         self.check_success(result, "two", 100, [left, right])
         self.assertEqual(sum(row[1] is None for row in rows(result.stdout)), 2)
 
+    def test_heart_rate(self):
+        for rate, seconds, pulse in (360, 60, 39), (250, 60, 75), (500, 30, 201), (360, 5, 90), (8000, 3, 120):
+            with self.subTest(rate=rate, seconds=seconds, pulse=pulse):
+                write_wav(self.folder / "made.wav", rate, list(beats(rate, seconds, pulse)))
+                result = self.run_report(self.folder / "made.wav")
+                self.assertEqual((result.returncode, result.stderr), (0, ""))
+                self.assertAlmostEqual(heart_rates(result.stdout)[0], pulse, delta=pulse / 100)
+        write_wav(self.folder / "two.wav", 360, list(beats(360, 20, 62)), list(beats(360, 20, 111)))
+        left, right = heart_rates(self.run_report(self.folder / "two.wav").stdout)
+        self.assertAlmostEqual(left, 62, delta=0.62)
+        self.assertAlmostEqual(right, 111, delta=1.11)
+
     def test_one_sample(self):
         write_wav(self.folder / "one.wav", 360, [77])
         result = self.run_report(self.folder / "one.wav")
         self.assertEqual((result.returncode, result.stderr), (0, ""))
         self.assertEqual(rows(result.stdout), [[0.385, None, 0.385, 0.385]] * 2)
+        self.assertIn("heart rate: none found", result.stdout)
+        self.assertTrue((self.out / "one_spectrogram.png").read_bytes().startswith(b"\x89PNG"))
 
     def test_bad_input(self):
         whole = RECORDING.read_bytes()
