@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace ecg {
 namespace {
@@ -16,7 +17,8 @@ constexpr double faintest = -120;  // dB: far below the steps of 16 bits
 
 void drawPower(Picture& picture, const Density& density, int rate, const std::string& name)
 {
-    double low = INFINITY, high = -INFINITY;
+    constexpr double none = std::numeric_limits<double>::infinity();
+    double low = none, high = -none;
     picture.say("$power << end");
     for (int k = 0; k < density.upTo(most); ++k) {
         const double level = std::max(decibels(density.values.data()[k]), faintest);
