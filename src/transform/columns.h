@@ -17,10 +17,11 @@ struct Passes {
     int m;
     int count = (m + mostLevels - 1) / mostLevels;
 
+    // At most two levels are missing: the last pass lacks one, then the one before it, or again the only one.
     constexpr int levels(int pass) const
     {
-        const int missing = count * mostLevels - m;
-        return mostLevels - missing / count - (pass >= count - missing % count ? 1 : 0);
+        const int missing = count * mostLevels - m, behind = count - 1 - pass;
+        return mostLevels - (missing > behind ? 1 : 0) - (missing > count + behind ? 1 : 0);
     }
 };
 

@@ -97,6 +97,61 @@ inline void eightPoints(const Arrays& io, const T* factor)
     }
 }
 
+// 32 points as four rows of eight columns. Half as many rows as the turn takes at a time, so that the halves of the
+// vectors, transformed, lie side by side in one: lanes 2 and 3 of a block have the odd points, whose factors are
+// e^(-2 pi i n / 8).
+template <class T>
+inline constexpr std::array<T, 96> factorsOf32 = [] {
+    std::array<T, 96> factors{};
+    const auto put = [&](int vector, int lane, Cx<T> w) {
+        factors[static_cast<std::size_t>(16 * vector + lane)] = w.re;
+        factors[static_cast<std::size_t>(16 * vector + 8 + lane)] = w.im;
+    };
+    for (int i = 1; i < 4; ++i)
+        for (int lane = 0; lane < 8; ++lane) {
+            put(i - 1, lane, smallWave<T>(i * lane, 5));
+            put(i + 2, lane, smallWave<T>(lane % 4 < 2 ? 0 : i, 3));
+        }
+    return factors;
+}();
+
+template <class T, class Arrays>
+inline void points32(const Arrays& io, const T* factor)
+{
+    using V = Vec<T, 8>;
+    const auto src = io.template source<8>().template closeFrom<1>(0);
+    const auto dst = io.template sink<8>().template closeFrom<1>(0);
+    const T* factors = factorsOf32<T>.data();
+    Cx<V> x[4];
+#pragma GCC unroll 4
+    for (int k = 0; k < 4; ++k) x[k] = src.get(k);
+    dft<4>(x);
+#pragma GCC unroll 4
+    for (int k = 1; k < 4; ++k) x[k] = times(x[k], factorAt<T, 8>(factors, k - 1));
+#pragma GCC unroll 4
+    for (int k = 0; k < 2; ++k) {
+        exchangeBlocks<4>(x[k].re, x[k + 2].re);
+        exchangeBlocks<4>(x[k].im, x[k + 2].im);
+        dft2(x[k], x[k + 2]);
+    }
+    V re[4], im[4];
+#pragma GCC unroll 4
+    for (int k = 0; k < 4; ++k) re[k] = x[k].re, im[k] = x[k].im;
+    transposeInside(re);
+    transposeInside(im);
+#pragma GCC unroll 4
+    for (int i = 0; i < 4; ++i) {
+        x[i] = {re[i], im[i]};
+        if (i > 0) x[i] = times(x[i], factorAt<T, 8>(factors, i + 2));
+    }
+    dft<4>(x);
+#pragma GCC unroll 4
+    for (int j = 0; j < 4; ++j) {
+        if (factor) x[j] = {x[j].re * *factor, x[j].im * *factor};
+        dst.putTurned(j, x[j]);
+    }
+}
+
 template <int Order, class T, class Arrays>
 inline void smallTransform(const Arrays& io, const T* factor)
 {
@@ -126,7 +181,10 @@ inline void smallTransform(int order, const Arrays& io, const T* factor)
     case 4:
         return smallTransform<4>(io, factor);
     default:
-        return smallTransform<5>(io, factor);
+        if constexpr (lanesOfBlock<Vec<T, 8>> == 4 && lanes<T> >= 8)
+            return points32(io, factor);
+        else
+            return smallTransform<5>(io, factor);
     }
 }
 
