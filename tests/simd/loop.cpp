@@ -35,6 +35,23 @@ struct Coverage {
     std::vector<signed char> times;
 };
 
+template <int N>
+void expectBlocks()
+{
+    for (std::ptrdiff_t len = 0; len <= 9 * N; ++len) {
+        Coverage coverage(len);
+        blocks<N>(len, [&](auto at) { coverage(at); });
+        ASSERT_TRUE(coverage.once()) << "length " << len << ", step " << N;
+    }
+}
+
+TEST(Loop, BlocksCoverEachElementOnce)
+{
+    expectBlocks<lanes<std::uint8_t>>();
+    expectBlocks<lanes<std::uint16_t>>();
+    expectBlocks<lanes<std::uint64_t>>();
+}
+
 // The number of streamed steps of a loop into some destinations, whose memory it never reads.
 template <int N, class T, class... More>
 std::ptrdiff_t streamedSteps(std::ptrdiff_t len, T* pDst, More*... more)
@@ -92,6 +109,17 @@ TEST(Loop, BlocksIntoStreamOnlyWhatReachesAlignedAddresses)
     EXPECT_GT(streamedSteps<n>(len, placeAt<Pair32>(8)), 0);
     EXPECT_EQ(streamedSteps<n>(len, placeAt<float>(4), placeAt<float>(8)), 0);
     EXPECT_GT(streamedSteps<n>(len, placeAt<float>(4), placeAt<float>(4 + vectorBytes)), 0);
+}
+
+TEST(Loop, PlacesLoadAndStoreWhatTheyCover)
+{
+    constexpr int n = lanes<std::int32_t>;
+    alignas(64) std::int32_t src[3 * n], dst[3 * n];
+    for (int i = 0; i < 3 * n; ++i) src[i] = i + 1, dst[i] = -1;
+    store(dst, Whole<n>{0}, load(src, Whole<n>{0}));
+    store(dst, Streamed<n>{n}, load(src, Streamed<n>{n}));
+    store(dst, Part<n>{2 * n, n - 1}, load(src, Part<n>{2 * n, n - 1}));
+    for (int i = 0; i < 3 * n; ++i) EXPECT_EQ(dst[i], i < 3 * n - 1 ? i + 1 : -1);
 }
 
 } // namespace
