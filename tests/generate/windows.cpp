@@ -211,7 +211,7 @@ TEST(Windows, LongWindowsKeepTheirPrecision)
     for (int n = 0; n < len; n += n < 1000 ? 1 : 97) {
         const auto i = static_cast<std::size_t>(n);
         const Wide sine = std::sin(pi * std::min(n, len - 1 - n) / (len - 1)), q = sine * sine;
-        ASSERT_LE(std::abs(h[i] - q), 6 * 0x1p-53L * q) << n;
+        ASSERT_LE(std::abs(h[i] - q), 0x1p-53L * std::min(4.0L, 6 * q)) << n;
         ASSERT_LE(std::abs(b[i] - (q - 0.64L * q * (1 - q))), blackmanBound(0.16) * 0x1p-53L) << n;
     }
 }
