@@ -6,7 +6,6 @@
 #include <cfloat>
 #include <cmath>
 #include <limits>
-#include <type_traits>
 
 namespace {
 
