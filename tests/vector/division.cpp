@@ -320,8 +320,7 @@ void expectComplex(Div div, DivC divC, int most, Within within)
     for (int i = 0; i < 4000; ++i) {
         const int len = 1 + i % 9;
         C x[9], y[9], got[9], byConstant;
-        std::generate_n(x, len, [&] { return any(anyFloat<T>(i % 2 ? 0 : most)); });
-        std::generate_n(y, len, [&] { return any(anyFloat<T>(i % 2 ? 0 : most)); });
+        for (C* p : {x, y}) std::generate_n(p, len, [&] { return any(anyFloat<T>(i % 2 ? 0 : most)); });
         y[0] = {x[0].re, x[0].im * (T(1) + std::numeric_limits<T>::epsilon())}; // all but real
         ASSERT_EQ(div(y, x, got, len), zorStsOk);
         for (int n = 0; n < len; ++n) {

@@ -2,8 +2,6 @@
 
 #include <zors.h>
 
-#include <algorithm>
-
 namespace {
 
 using namespace zors::test;
