@@ -33,7 +33,8 @@ inline Vec<double> halfAdded(Vec<double> v)
 template <Rounding rounding, class V, class M>
 inline M lacking(V rest, M isOdd)
 {
-    const M up = rest<1, down = rest> - 1;
+    const M up = rest < 1;
+    const M down = rest > -1;
     if constexpr (rounding == Rounding::halfAway)
         return (down & (rest <= -0.5f)) - (up & (rest >= 0.5f));
     else

@@ -308,17 +308,30 @@ double distance(std::vector<Zor32f> sample, Distribution distribution)
     return most * std::sqrt(size);
 }
 
+// The first four moments of a standardised sample against their expectations, within four standard errors of each.
+void expectMoments(const std::vector<Zor32f>& sample, double mean, double deviation, double fourth,
+                   const double (&errors)[4])
+{
+    const double expected[] = {0, 1, 0, fourth}, size = static_cast<double>(sample.size());
+    for (int k = 0; k < 4; ++k) {
+        double sum = 0;
+        for (const Zor32f v : sample) sum += std::pow((v - mean) / deviation, k + 1);
+        EXPECT_NEAR(sum / size, expected[k], 4 * errors[k] / std::sqrt(size)) << "moment " << k + 1;
+    }
+}
+
 TEST(Random, Distributions)
 {
     for (const Zor32u start : {1u, 20261121u, 0xdeadbeefu}) {
         Zor32u seed = start;
-        EXPECT_LT(distance(drawn(zorsRandUniform_Direct_32f, 200000, -2.0f, 6.0f, seed),
-                           [](double x) { return std::clamp((x + 2) / 8, 0.0, 1.0); }),
-                  1.63);
+        const auto uniform = drawn(zorsRandUniform_Direct_32f, 200000, -2.0f, 6.0f, seed);
+        EXPECT_LT(distance(uniform, [](double x) { return std::clamp((x + 2) / 8, 0.0, 1.0); }), 1.63);
+        expectMoments(uniform, 2, 8 / std::sqrt(12.0), 1.8, {1, 0.894, 1.964, 2.4});
         seed = start;
-        EXPECT_LT(distance(drawn(zorsRandGauss_Direct_32f, 200000, 3.0f, 0.5f, seed),
-                           [](double x) { return 0.5 * std::erfc((3 - x) / 0.5 / std::sqrt(2.0)); }),
+        const auto normal = drawn(zorsRandGauss_Direct_32f, 200000, 3.0f, 0.5f, seed);
+        EXPECT_LT(distance(normal, [](double x) { return 0.5 * std::erfc((3 - x) / 0.5 / std::sqrt(2.0)); }),
                   1.63);
+        expectMoments(normal, 3, 0.5, 3, {1, 1.414, 3.873, 9.798});
     }
 }
 

@@ -309,7 +309,7 @@ ZORSAPI(ZorStatus, zorsAdd_16s32s_I, (const Zor16s* pSrc, Zor32s* pSrcDst, int l
  * @{
  */
 /**
- * pDst[n] = pSrc1[n] * pSrc2[n], rounded once.
+ * pDst[n] = pSrc1[n] * pSrc2[n], rounded once, as of floating-point numbers: 0 times a negative one is -0.
  * @param pSrc1 first factor
  * @param pSrc2 second factor
  * @param pDst destination vector; may be equal to a source
