@@ -40,18 +40,28 @@ struct Turn {
     static constexpr int lanes = lanesOfBlock<Vec<T, W>>;
     // Rows from b = 0 to b = 1 of any c.
     static constexpr int step = rowOfLane<T, W>(1) - rowOfLane<T, W>(0);
-    // With a block a row there is no first step, and the factors for i = 0 are 1. With more, the factors of a = 0
-    // and b = 1 are those of b = 0 times e^(-2 pi i step i / N): that keeps the table below N numbers.
+    // With a block a row there is no first step, and the factors for i = 0 are 1.
     static constexpr bool twoSteps = blocks > 1;
 };
 
-// Factors: for each block of rows, b and a those of k l, real parts of a vector, then imaginary ones. With one step
-// for i = 1..B - 1. Behind all, in two steps, the B factors that lead to the next row.
+// Up to so many rows both passes are done in registers.
+inline constexpr int mostRowsInRegisters = 16;
+
+// Factors: for each block of rows, b and a those of k l, real parts of a vector, then imaginary ones; with one step
+// for i = 1..B - 1. Where columns have factors too, those for a = 0 and b = 1 are left out, or the tables would have
+// more than N: they are those of b = 0 times e^(-2 pi i step i / N), which stand behind all.
+template <class T>
+constexpr bool isShort(std::ptrdiff_t rows, int width)
+{
+    return width * sizeof(T) > 16 && rows > mostRowsInRegisters;
+}
+
 template <class T>
 constexpr std::ptrdiff_t turnFactors(std::ptrdiff_t rows, int width)
 {
     constexpr int each = 16 / static_cast<int>(sizeof(T));
-    return rows * (width - 1) + (width > each ? each : 0);
+    if (isShort<T>(rows, width)) return rows * (width - 1) + each;
+    return rows * (width > each ? width : width - 1);
 }
 
 template <class T, int W>
@@ -67,7 +77,7 @@ constexpr void fillTurn(int order, const Wave<T>& wave, T* p)
     for (std::ptrdiff_t block = 0; block < rows; block += W)
         if constexpr (Turn::twoSteps) {
             for (int b = 0; b < Turn::lanes; ++b)
-                for (int a = b == 1 ? 1 : 0; a < Turn::blocks; ++a, p += 2 * W)
+                for (int a = b == 1 && isShort<T>(rows, W) ? 1 : 0; a < Turn::blocks; ++a, p += 2 * W)
                     for (int lane = 0; lane < W; ++lane) {
                         const int i = lane % Turn::lanes, l = a * Turn::lanes + i;
                         put(p, W, lane, (block + rowOfLane<T, W>(lane - i + b)) * l);
@@ -76,7 +86,7 @@ constexpr void fillTurn(int order, const Wave<T>& wave, T* p)
             for (int i = 1; i < W; ++i, p += 2 * W)
                 for (int lane = 0; lane < W; ++lane) put(p, W, lane, (block + rowOfLane<T, W>(lane)) * i);
         }
-    if constexpr (Turn::twoSteps)
+    if (isShort<T>(rows, W))
         for (int i = 0; i < Turn::lanes; ++i) put(p, Turn::lanes, i, Turn::step * i);
 }
 
@@ -86,18 +96,55 @@ template <class T, int W>
     return {load<W>(factors + 2 * W * i), load<W>(factors + 2 * W * i + W)};
 }
 
-// What leads from the factors of a row to those of the next, for all blocks of the table.
+// The factors of a block of rows by b and a, from the whole table or from the short one.
 template <class T, int W>
-inline Cx<Vec<T, W>> nextRow(const T* factors, std::ptrdiff_t rows)
-{
-    if constexpr (Turn<T, W>::twoSteps) {
+class WholeTable {
+public:
+    explicit WholeTable(const T* factors, std::ptrdiff_t = 0) : factors_(factors) {}
+
+    WholeTable of(std::ptrdiff_t block) const
+    {
+        return WholeTable(factors_ + block * 2 * W * (Turn<T, W>::twoSteps ? W : W - 1));
+    }
+    [[gnu::always_inline]] Cx<Vec<T, W>> at(int b, int a) const
+    {
+        return factorAt<T, W>(factors_, b * Turn<T, W>::blocks + a);
+    }
+    // With one step.
+    [[gnu::always_inline]] Cx<Vec<T, W>> at(int i) const { return factorAt<T, W>(factors_, i - 1); }
+
+private:
+    const T* factors_;
+};
+
+template <class T, int W>
+class ShortTable {
+public:
+    ShortTable(const T* factors, std::ptrdiff_t rows) : factors_(factors)
+    {
         constexpr int each = Turn<T, W>::lanes;
         const T* p = factors + 2 * rows * (W - 1);
-        return {repeated<W>(load<each>(p)), repeated<W>(load<each>(p + each))};
-    } else {
-        return {Vec<T, W>{}, Vec<T, W>{}};
+        next_ = {repeated<W>(load<each>(p)), repeated<W>(load<each>(p + each))};
     }
-}
+    ShortTable of(std::ptrdiff_t block) const
+    {
+        return ShortTable(factors_ + block * 2 * W * (W - 1), next_);
+    }
+    [[gnu::always_inline]] Cx<Vec<T, W>> at(int b, int a) const
+    {
+        if (b == 1 && a == 0) return times(at(0, 0), next_);
+        return factorAt<T, W>(factors_, b * Turn<T, W>::blocks + a - (b > 0 ? 1 : 0));
+    }
+
+private:
+    ShortTable(const T* factors, Cx<Vec<T, W>> next) : factors_(factors), next_(next) {}
+
+    const T* factors_;
+    Cx<Vec<T, W>> next_;
+};
+
+template <class T, int W>
+using TableBehindColumns = std::conditional_t<Turn<T, W>::twoSteps, ShortTable<T, W>, WholeTable<T, W>>;
 
 // Stages first(n) and second(n), n = 0..N - 1, each with a constant. Where there are registers enough the shuffles
 // of a first stage come before the arithmetic of the second one before it: the processor looks ahead by little more
@@ -119,9 +166,8 @@ template <int N, class First, class Second>
 }
 
 // The last pass over one block of W rows.
-template <int W, class T, class In, class Out>
-[[gnu::always_inline]] inline void turnBlock(const In& in, const Out& out, const T* factors,
-                                             Cx<Vec<T, W>> next)
+template <int W, class T, class In, class Out, class Table>
+[[gnu::always_inline]] inline void turnBlock(const In& in, const Out& out, const Table& table)
 {
     using V = Vec<T, W>;
     constexpr int blocks = Turn<T, W>::blocks, lanes = Turn<T, W>::lanes;
@@ -145,12 +191,7 @@ template <int W, class T, class In, class Out>
     {
         if constexpr (twoSteps) {
 #pragma GCC unroll 4
-            for (int a = 0; a < blocks; ++a) {
-                const auto factor = b == 1 && a == 0
-                                        ? times(factorAt<T, W>(factors, 0), next)
-                                        : factorAt<T, W>(factors, b * blocks + a - (b > 0 ? 1 : 0));
-                y[b][a] = times(y[b][a], factor);
-            }
+            for (int a = 0; a < blocks; ++a) y[b][a] = times(y[b][a], table.at(b, a));
         }
         dft<blocks>(y[b]);
 #pragma GCC unroll 4
@@ -173,7 +214,7 @@ template <int W, class T, class In, class Out>
     {
         if constexpr (!twoSteps) {
 #pragma GCC unroll 4
-            for (int i = 1; i < lanes; ++i) z[q][i] = times(z[q][i], factorAt<T, W>(factors, i - 1));
+            for (int i = 1; i < lanes; ++i) z[q][i] = times(z[q][i], table.at(i));
         }
         if constexpr (lanes == 4)
             dft4Turned<q * 16 / W>(z[q][0], z[q][1], z[q][2], z[q][3]);
@@ -191,10 +232,10 @@ template <int W, class T, class Out>
                             std::ptrdiff_t step, const T* factors)
 {
     const Stride one = in.stride(1), outStride = out.stride(all);
-    const auto next = nextRow<T, W>(factors, all * W);
+    const TableBehindColumns<T, W> table(factors, all * W);
     for (std::ptrdiff_t i = 0, block = first; block < all; ++i, block += step)
-        turnBlock<W>(in.template from<W>(i * W, one), out.template from<W>(block, outStride),
-                     factors + block * 2 * W * (W - 1), next);
+        turnBlock<W, T>(in.template from<W>(i * W, one), out.template from<W>(block, outStride),
+                        table.of(block));
 }
 
 // The last pass over columns and the turn at once, by the rows that depend on one another.
@@ -219,7 +260,7 @@ struct Held {
     [[gnu::always_inline]] Cx<V> get(int i) const { return rows[i]; }
 };
 
-// Both passes in registers: up to 16 rows.
+// Both passes in registers.
 template <int W, int M, class T, class In, class Out>
 [[gnu::noinline]] void inRegisters(In in, Out out, const T* factors)
 {
@@ -229,11 +270,10 @@ template <int W, int M, class T, class In, class Out>
 #pragma GCC unroll 16
     for (int t = 0; t < M; ++t) x[t] = src.get(t);
     dft<M>(x);
-    const auto next = nextRow<T, W>(factors, M);
+    const WholeTable<T, W> table(factors);
 #pragma GCC unroll 16
     for (int block = 0; block < M / W; ++block)
-        turnBlock<W>(Held<V>{x + block * W}, out.template closeFrom<M / W>(block),
-                     factors + block * 2 * W * (W - 1), next);
+        turnBlock<W, T>(Held<V>{x + block * W}, out.template closeFrom<M / W>(block), table.of(block));
 }
 
 // Factors of a transform: of the last pass, then of the columns.
