@@ -100,4 +100,15 @@ template <class T, class Arrays>
     sortedTransform<lanes<T>>(order, io, factor, work, spec.factors);
 }
 
+// Compiled once each, in engine32.cpp and engine64.cpp.
+#define ZORS_ENGINE(prefix, T)                                                                               \
+    prefix template void complexTransform(const FloatRecord<T>&, int, int, const PairedArrays<T, false>&,    \
+                                          const T*, T*);                                                     \
+    prefix template void complexTransform(const FloatRecord<T>&, int, int, const PairedArrays<T, true>&,     \
+                                          const T*, T*);                                                     \
+    prefix template void complexTransform(const FloatRecord<T>&, int, int, const SplitArrays<T>&, const T*,  \
+                                          T*);
+ZORS_ENGINE(extern, Zor32f)
+ZORS_ENGINE(extern, Zor64f)
+
 } // namespace zors::ZORS_VARIANT
