@@ -2,6 +2,7 @@
 // destination, two transforms of half the length, and the even and odd points shuffled together.
 #pragma once
 
+#include "ports.h"
 #include "sines.h"
 
 namespace zors::ZORS_VARIANT {

@@ -20,7 +20,7 @@ public:
     std::ptrdiff_t points() const { return std::ptrdiff_t{1} << r_.order; }
     const FloatRecord<T>& spec() const { return *static_cast<const FloatRecord<T>*>(r_.nested); }
     T* numbers() const { return work_.as<T>(); }
-    T* work() const { return reinterpret_cast<T*>(work_.memory() + convertedBytes<Kind>(r_.order)); }
+    T* work() const { return reinterpret_cast<T*>(work_.memory() + convertedBytes<KindOf<Spec>>(r_.order)); }
 
     template <class Arrays>
     void transform(const Arrays& io, bool inverse) const

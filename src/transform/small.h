@@ -29,17 +29,6 @@ inline void scalarTransform(const Arrays& io, const T* factor)
     for (int i = 0; i < R; ++i) io.put(i, x[i]);
 }
 
-// e^(-2 pi i n / 8), n = 0..3.
-template <class T>
-inline constexpr std::array<T, 8> eighths = [] {
-    std::array<T, 8> factors{};
-    for (int n = 0; n < 4; ++n) {
-        factors[static_cast<std::size_t>(n)] = smallWave<T>(n, 3).re;
-        factors[static_cast<std::size_t>(n) + 4] = smallWave<T>(n, 3).im;
-    }
-    return factors;
-}();
-
 // Eight points in two vectors of four. The sums hold the even points, the differences the odd ones, and each half of
 // a vector is a transform of four.
 template <class T>
@@ -65,8 +54,20 @@ template <class T>
     struct InOrder {
         constexpr int operator()(int i) const { return i == 1 ? 2 : i == 2 ? 1 : i; }
     };
-    const Cx<V> w = {load<4>(eighths<T>.data()), load<4>(eighths<T>.data() + 4)};
-    const Cx<V> even = x + y, odd = times(x - y, w);
+    // Times e^(-2 pi i n / 8): lanes 2 and 3 by -i, then lanes 1 and 3 as sums, so that what cancels is gone.
+    struct UpperOfSecond {
+        constexpr int operator()(int i) const { return i < 2 ? i : i + 4; }
+    };
+    struct OddOfSecond {
+        constexpr int operator()(int i) const { return i % 2 ? i + 4 : i; }
+    };
+    const T h = static_cast<T>(sqrtHalf);
+    const V scale = {1, h, 1, h};
+    const Cx<V> even = x + y, difference = x - y;
+    const Cx<V> z = {permute<UpperOfSecond>(difference.re, difference.im),
+                     permute<UpperOfSecond>(difference.im, -difference.re)};
+    const Cx<V> odd = {permute<OddOfSecond>(z.re, z.re + z.im) * scale,
+                       permute<OddOfSecond>(z.im, z.im - z.re) * scale};
     Cx<V> a = {permute<Low>(even.re, odd.re), permute<Low>(even.im, odd.im)};
     Cx<V> b = {permute<High>(even.re, odd.re), permute<High>(even.im, odd.im)};
     dft2(a, b);

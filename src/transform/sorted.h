@@ -47,21 +47,24 @@ struct Turn {
 // Up to so many rows both passes are done in registers.
 inline constexpr int mostRowsInRegisters = 16;
 
+// Lanes in a block.
+template <class T>
+inline constexpr int blockLanes = 16 / static_cast<int>(sizeof(T));
+
 // Factors: for each block of rows, b and a those of k l, real parts of a vector, then imaginary ones; with one step
 // for i = 1..B - 1. Where columns have factors too, those for a = 0 and b = 1 are left out, or the tables would have
 // more than N: they are those of b = 0 times e^(-2 pi i step i / N), which stand behind all.
 template <class T>
 constexpr bool isShort(std::ptrdiff_t rows, int width)
 {
-    return width * sizeof(T) > 16 && rows > mostRowsInRegisters;
+    return width > blockLanes<T> && rows > mostRowsInRegisters;
 }
 
 template <class T>
 constexpr std::ptrdiff_t turnFactors(std::ptrdiff_t rows, int width)
 {
-    constexpr int each = 16 / static_cast<int>(sizeof(T));
-    if (isShort<T>(rows, width)) return rows * (width - 1) + each;
-    return rows * (width > each ? width : width - 1);
+    if (isShort<T>(rows, width)) return rows * (width - 1) + blockLanes<T>;
+    return rows * (width > blockLanes<T> ? width : width - 1);
 }
 
 template <class T, int W>
@@ -122,9 +125,8 @@ class ShortTable {
 public:
     ShortTable(const T* factors, std::ptrdiff_t rows) : factors_(factors)
     {
-        constexpr int each = Turn<T, W>::lanes;
         const T* p = factors + 2 * rows * (W - 1);
-        next_ = {repeated<W>(load<each>(p)), repeated<W>(load<each>(p + each))};
+        next_ = {repeated<W>(load<blockLanes<T>>(p)), repeated<W>(load<blockLanes<T>>(p + blockLanes<T>))};
     }
     ShortTable of(std::ptrdiff_t block) const
     {

@@ -42,7 +42,7 @@ Sizes sizesOf(int order)
     Sizes sizes = floatSizes<Floating>(order);
     if constexpr (!isFloating<Kind>) {
         sizes.spec += wholeLines(headerBytes<Kind>);
-        sizes.work += convertedBytes<Floating>(order);
+        sizes.work += convertedBytes<Kind>(order);
     }
     return sizes;
 }

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <type_traits>
 
 namespace zors::ZORS_VARIANT {
 
@@ -73,15 +74,18 @@ inline Sizes floatSizes(int order)
             workBytes<T>(complexOrder<Kind>(order))};
 }
 
-// Bytes of the data of a wrapped integer transform, converted: two numbers a point, or for real data one, and two
-// more for the zeros of CCS.
+// Bytes of the data of an integer kind, converted: two numbers a point. One, and two more for the zeros of CCS, are
+// enough for real data: so it is in the wide kinds, and in the narrow one where two would pass 2^31 bytes.
 template <class Kind>
 constexpr std::int64_t convertedBytes(int order)
 {
-    constexpr std::int64_t size = bytes<typename Kind::Number>;
+    using Floating = KindOf<typename Kind::Nested>;
+    constexpr bool narrow = std::is_same_v<typename Kind::Record, NarrowRecord>;
+    constexpr std::int64_t size = bytes<typename Floating::Number>;
     const std::int64_t n = std::int64_t{1} << order;
     const std::int64_t two = 2 * size * n, one = wholeLines(size * (n + 2));
-    return Kind::real && one < two ? one : two;
+    const bool saves = Floating::real && (!narrow || two > INT32_MAX);
+    return saves && one < two ? one : two;
 }
 
 // Twice the bit reversal of 0..N/4 - 1, and a 0 behind it. Users of the record's layout read it; the engine sorts

@@ -52,6 +52,11 @@ std::vector<Wide> run(const Transform& t, const Spec& spec, const std::vector<Wi
     return readNumbers(out.get(), t.out.number, t.out.numbers(order));
 }
 
+bool isPacked(Format format)
+{
+    return format == Format::pack || format == Format::perm;
+}
+
 double errorOf(const Transform& t, int order, int flag)
 {
     const Spec spec(*t.kind, order, flag);
@@ -91,6 +96,8 @@ TEST(Accuracy, FloatingTransforms)
     for (int order = 0; order <= longestOrder(22); ++order)
         for (const Transform& t : transforms()) {
             if (!isFloating(t.in.number)) continue;
+            // Long ones differ from CCS no more than short ones do.
+            if (order > 18 && (isPacked(t.in.format) || isPacked(t.out.format))) continue;
             const double unit = std::sqrt(static_cast<double>(order));
             for (const int flag : flags) {
                 // Long transforms take their time: one with and one without a factor, the longest only without.

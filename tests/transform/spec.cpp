@@ -68,10 +68,19 @@ TEST(Sizes, FollowTheFormulas)
             EXPECT_EQ(sizesOf(kind("R_32f"), order, flag), single.real(order)) << order;
         for (int order = 0; order <= twice.firstBlocked; ++order)
             EXPECT_EQ(sizesOf(kind("R_64f"), order, flag), twice.real(order)) << order;
-        // The 16-bit kinds of at most 8 points.
-        for (int order = 0; order <= 3; ++order)
-            for (const char* name : {"C_16sc", "C_16s", "R_16s"})
-                EXPECT_EQ(sizesOf(kind(name), order, flag).work, (8 << order) + 64) << name << ' ' << order;
+        // The integers' work begins with the converted data.
+        for (int order = 0; order <= 20; ++order) {
+            const auto expect = [=](const char* name, const char* nested, int pair) {
+                const int inside = std::max(sizesOf(kind(nested), order, flag).work - 64, 0);
+                EXPECT_EQ(sizesOf(kind(name), order, flag).work, inside + (pair << order) + 64)
+                    << name << ' ' << order;
+            };
+            expect("C_16sc", "C_32fc", 8);
+            expect("C_16s", "C_32f", 8);
+            expect("R_16s", "R_32f", 8);
+            expect("C_32sc", "C_64fc", 16);
+            expect("C_32s", "C_64f", 16);
+        }
     }
 }
 
@@ -247,19 +256,29 @@ TEST(Records, HoldTheScale)
     expectScale<Zor64f>("R_64f");
 }
 
-TEST(Records, HoldTheBitReversal)
+// Of complex transforms in cache; a real one has that of half its length.
+template <class T>
+void expectBitReversal(const char* name, int half, int lastOrder)
 {
-    for (int order = 6; order <= 16; ++order) {
-        const Spec spec(kind("C_32fc"), order);
-        const Zor32s* table = static_cast<const FloatingRecord<Zor32f>*>(spec.get())->bitReversal;
+    for (int order = 6; order <= lastOrder; ++order) {
+        const Spec spec(kind(name), order + half);
+        const Zor32s* table = static_cast<const FloatingRecord<T>*>(spec.get())->bitReversal;
         const int count = 1 << (order - 2);
         for (int k = 0; k < count; ++k) {
             int reversed = 0;
             for (int bit = 0; bit < order - 2; ++bit) reversed = 2 * reversed + (k >> bit & 1);
-            ASSERT_EQ(table[k], 2 * reversed) << "order " << order << ", entry " << k;
+            ASSERT_EQ(table[k], 2 * reversed) << name << ", order " << order << ", entry " << k;
         }
         EXPECT_EQ(table[count], 0);
     }
+}
+
+TEST(Records, HoldTheBitReversal)
+{
+    expectBitReversal<Zor32f>("C_32fc", 0, 16);
+    expectBitReversal<Zor32f>("R_32f", 1, 16);
+    expectBitReversal<Zor64f>("C_64fc", 0, 14);
+    expectBitReversal<Zor64f>("R_64f", 1, 14);
 }
 
 template <class T>

@@ -94,8 +94,9 @@ ZORSAPI(ZorStatus, zorsFFTInv_PermToR_64f_I,
  */
 /**
  * The transforms of integers, scaled: the result, with what the specification's flag asks for, times 2^-scaleFactor,
- * rounded to nearest, ties to even, and saturated. 16-bit data, and those with 32-bit spectra, are transformed in single precision, 32-bit data in
- * double precision; before the rounding the error is that of the floating transforms.
+ * rounded to nearest, ties to even, and saturated. 16-bit data, and those with 32-bit spectra, are transformed in
+ * single precision, 32-bit data in double precision; before the rounding the error is that of the floating transforms,
+ * and that of 32-bit numbers in single precision where these are taken.
  * @param pSrc source vector: N numbers, a CCS spectrum N + 2 (2 for N = 1)
  * @param pDst destination vector of the same lengths; equal to @p pSrc or without overlap
  * @param pSpec specification of the same kind; tells length and scaling

@@ -166,8 +166,8 @@ ZORSAPI(ZorStatus, zorsFFTInitAlloc_R_16s32s,
 /**
  * Invalidates a specification, and releases its memory where it is the library's.
  * @param pSpec specification
- * @return zorStsNullPointer for a null @p pSpec, then zorStsWrongContext for a record of another kind or one that was
- * released, else zorStsOk
+ * @return zorStsNullPointer for a null @p pSpec, then zorStsWrongContext for a record of another kind or one in the
+ * caller's memory that was released, else zorStsOk. (A released record of the library's is no longer there to be asked.)
  */
 ZORSAPI(ZorStatus, zorsFFTFree_C_16sc, (ZorsFFTSpec_C_16sc* pSpec))
 ZORSAPI(ZorStatus, zorsFFTFree_C_16s, (ZorsFFTSpec_C_16s* pSpec))

@@ -31,7 +31,7 @@ ZORSAPI(ZorStatus, zorsConjCcs_16sc, (const Zor16s* pSrc, Zor16sc* pDst, int len
  * @{
  */
 /**
- * The same for a packed spectrum at the start of the vector. A CCS spectrum of N = 1 has no second number there.
+ * The same for a packed spectrum at the start of the vector. Of a CCS spectrum of N = 1 only the first number is read.
  * @param pSrcDst vector of N points
  * @param len the signal's length N
  * @return zorStsNullPointer for a null pointer, then zorStsBadSize for @p len below 1, else zorStsOk
