@@ -144,7 +144,7 @@ enum {
     zorWinRect = 4      /**< no window */
 };
 
-/** How the fast Fourier transforms scale, N being their length: the flag of a specification. */
+/** How the fast Fourier transforms scale, N being their length: the flag of a record. */
 enum {
     ZOR_FFT_SCALE_FWD = 1,  /**< the forward transform by 1/N */
     ZOR_FFT_SCALE_INV = 2,  /**< the inverse transform by 1/N */
@@ -152,7 +152,7 @@ enum {
     ZOR_FFT_SCALE_NONE = 8  /**< none */
 };
 
-/** @name Specifications of fast Fourier transforms
+/** @name Records of fast Fourier transforms
  * Opaque: made by zorsFFTInit or zorsFFTInitAlloc, one type for each kind of data.
  * @{
  */

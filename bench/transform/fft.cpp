@@ -21,7 +21,7 @@ int orderOf(int n)
     return order;
 }
 
-// Our transform on vectors of numbers of type T, with a specification and a work buffer of its own.
+// Our transform on vectors of numbers of type T, with a record and a work buffer of its own.
 template <class T, class Spec, class C>
 Contender ours(Shape shape, ZorStatus (*init)(Spec**, int, int, ZorHintAlgorithm), ZorStatus (*free)(Spec*),
                ZorStatus (*getBufSize)(const Spec*, int*),

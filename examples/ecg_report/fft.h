@@ -24,7 +24,7 @@ private:
     RealFft(int order, const Sizes& sizes);
 
     int len_;
-    Vector<Zor8u> memory_; // of the specification
+    Vector<Zor8u> memory_; // of the record
     Vector<Zor8u> work_;
     ZorsFFTSpec_R_32f* spec_ = nullptr;
 };

@@ -47,24 +47,20 @@ struct Turn {
 // Up to so many rows both passes are done in registers.
 inline constexpr int mostRowsInRegisters = 16;
 
-// Lanes in a block.
-template <class T>
-inline constexpr int blockLanes = 16 / static_cast<int>(sizeof(T));
-
 // Factors: for each block of rows, b and a those of k l, real parts of a vector, then imaginary ones; with one step
 // for i = 1..B - 1. Where columns have factors too, those for a = 0 and b = 1 are left out, or the tables would have
 // more than N: they are those of b = 0 times e^(-2 pi i step i / N), which stand behind all.
 template <class T>
 constexpr bool isShort(std::ptrdiff_t rows, int width)
 {
-    return width > blockLanes<T> && rows > mostRowsInRegisters;
+    return width > lanesOfBlock<Vec<T>> && rows > mostRowsInRegisters;
 }
 
 template <class T>
 constexpr std::ptrdiff_t turnFactors(std::ptrdiff_t rows, int width)
 {
-    if (isShort<T>(rows, width)) return rows * (width - 1) + blockLanes<T>;
-    return rows * (width > blockLanes<T> ? width : width - 1);
+    if (isShort<T>(rows, width)) return rows * (width - 1) + lanesOfBlock<Vec<T>>;
+    return rows * (width > lanesOfBlock<Vec<T>> ? width : width - 1);
 }
 
 template <class T, int W>
@@ -126,7 +122,8 @@ public:
     ShortTable(const T* factors, std::ptrdiff_t rows) : factors_(factors)
     {
         const T* p = factors + 2 * rows * (W - 1);
-        next_ = {repeated<W>(load<blockLanes<T>>(p)), repeated<W>(load<blockLanes<T>>(p + blockLanes<T>))};
+        next_ = {repeated<W>(load<lanesOfBlock<Vec<T>>>(p)),
+                 repeated<W>(load<lanesOfBlock<Vec<T>>>(p + lanesOfBlock<Vec<T>>))};
     }
     ShortTable of(std::ptrdiff_t block) const
     {
@@ -283,7 +280,8 @@ template <class T>
 constexpr std::ptrdiff_t sortedFactors(int order)
 {
     const int width = lanesForOrder<T>(order), m = order - log2Of(width);
-    return turnFactors<T>(std::ptrdiff_t{1} << m, width) + (m > 4 ? columnFactors(m) : 0);
+    const std::ptrdiff_t rows = std::ptrdiff_t{1} << m;
+    return turnFactors<T>(rows, width) + (rows > mostRowsInRegisters ? columnFactors(m) : 0);
 }
 
 template <class T>
@@ -311,18 +309,19 @@ inline void fillSorted(int order, const Wave<T>& wave, T* p)
         fillTurn<T, lanes<T>>(order, wave, p);
     else
         fillTurn<T, lanes<T> / 2>(order, wave, p);
-    if (m > 4) fillColumns(m, wave, p + 2 * turnFactors<T>(std::ptrdiff_t{1} << m, width));
+    const std::ptrdiff_t rows = std::ptrdiff_t{1} << m;
+    if (rows > mostRowsInRegisters) fillColumns(m, wave, p + 2 * turnFactors<T>(rows, width));
 }
 
 template <int W, class T, class In, class Out, class Room>
 inline void sortedTransform(int order, In in, Out out, Room room, T* work, const T* factors)
 {
     const int m = order - log2Of(W);
-    if constexpr (W <= 8) {
-        if (m == 3) return inRegisters<W, 8>(in, out, factors);
-    }
-    if (m == 4) return inRegisters<W, 16>(in, out, factors);
     const std::ptrdiff_t rows = std::ptrdiff_t{1} << m;
+    if constexpr (W <= 8) {
+        if (rows == 8) return inRegisters<W, 8>(in, out, factors);
+    }
+    if (rows == mostRowsInRegisters) return inRegisters<W, mostRowsInRegisters>(in, out, factors);
     const Rows<T, W> own{work};
     const T* ofColumns = factors + 2 * turnFactors<T>(rows, W);
     if (m <= 2 * mostLevels) {

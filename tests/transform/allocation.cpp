@@ -53,7 +53,7 @@ TEST(Allocation, InitAllocLeavesNothingBehind)
                 allocator.untilFailure = k;
                 void* spec = &mark;
                 EXPECT_EQ(kind.initAlloc(&spec, order, ZOR_FFT_SCALE_NONE, ZOR_ALG_ANY), zorStsNoMemory);
-                EXPECT_EQ(spec, &mark) << "a specification was handed out";
+                EXPECT_EQ(spec, &mark) << "a record was handed out";
                 EXPECT_TRUE(allocator.live.empty());
             }
             allocator = {};

@@ -1,4 +1,4 @@
-// With pages around them that nobody may touch: the specification, the memory of its making, the work buffer and the
+// With pages around them that nobody may touch: the record, the memory of its making, the work buffer and the
 // data need not be a byte longer than reported. And the statuses, which come before anything is touched.
 #include "contract/arena.h"
 #include "transform/samples.h"
@@ -50,7 +50,7 @@ void runGuarded(const Transform& t, int order, int flag, bool atEnd)
     ASSERT_EQ(t.run(src.get(), dst.get(), spec, order, 3, orNull(work, sizes.work)), zorStsOk);
     EXPECT_TRUE(src.intact() && dst.intact() && work.intact() && memory.intact());
     EXPECT_EQ(std::memcmp(src.get(), input.data(), input.size()), 0) << "the source was changed";
-    EXPECT_EQ(std::memcmp(memory.get(), before.data(), before.size()), 0) << "the specification was changed";
+    EXPECT_EQ(std::memcmp(memory.get(), before.data(), before.size()), 0) << "the record was changed";
 
     if (!t.runInPlace) return;
     Guarded both(std::max(t.in.bytes(order), t.out.bytes(order)), atEnd);

@@ -60,7 +60,7 @@ Sizes sizesOf(const Kind& kind, int order, int flag)
 Spec::Spec(const Kind& kind, int order, int flag) : kind_(kind)
 {
     if (kind.initAlloc(&spec_, order, flag, ZOR_ALG_ANY) != zorStsOk)
-        throw std::runtime_error("no specification of " + kind.name);
+        throw std::runtime_error("no record of " + kind.name);
 }
 
 Spec::~Spec()

@@ -1,4 +1,4 @@
-// The kinds of specifications behind one interface each, so that a test can go through all of them.
+// The kinds of records behind one interface each, so that a test can go through all of them.
 #pragma once
 
 #include <zors.h>
@@ -31,7 +31,7 @@ const Kind& kind(const std::string& name);
 // The sizes of a kind that must exist.
 Sizes sizesOf(const Kind& kind, int order, int flag = ZOR_FFT_SCALE_NONE);
 
-// A specification of the library's, released at the end.
+// A record of the library's, released at the end.
 class Spec {
 public:
     Spec(const Kind& kind, int order, int flag = ZOR_FFT_SCALE_NONE);

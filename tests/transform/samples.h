@@ -45,7 +45,7 @@ inline std::vector<Wide> randomNumbers(const Side& side, int order, Random& rand
     return numbers;
 }
 
-// What a specification multiplies by.
+// What a record multiplies by.
 inline Wide factorOf(int flag, bool inverse, int order)
 {
     const Wide n = std::ldexp(1.0L, order);

@@ -1,4 +1,4 @@
-// Sizes, statuses and records of the specifications.
+// Sizes and statuses of the records, and what lies in them.
 #include "transform/kinds.h"
 #include "transform/samples.h"
 
@@ -19,7 +19,7 @@ constexpr Size roundedDown(Size x)
     return x / 64 * 64;
 }
 
-// The parts of a specification as the formulas give them, with the place to align where they are not 0.
+// The parts of a record as the formulas give them, with the place to align where they are not 0.
 struct Formula {
     Size element; // bytes of a complex number
     int firstBlocked, mostSmallReal, firstTwoLevel;
@@ -157,7 +157,7 @@ TEST(Statuses, OfInit)
         std::memset(spec, 0x11, 64);
         EXPECT_EQ(status(&handle, 11, ZOR_FFT_SCALE_NONE, spec, nullptr), zorStsNullPointer);
         EXPECT_EQ(tag(), 0U);
-        EXPECT_EQ(handle, &mark) << "a specification was handed out in spite of an error";
+        EXPECT_EQ(handle, &mark) << "a record was handed out in spite of an error";
         EXPECT_EQ(status(&handle, 10, ZOR_FFT_SCALE_NONE, spec, nullptr), zorStsOk) << "no scratch is needed";
         EXPECT_EQ(handle, spec);
         EXPECT_EQ(tag(), k.tag);

@@ -1,4 +1,4 @@
-// A specification is read-only: many threads use one at the same time, and all get the same bits.
+// A record is read-only: many threads use one at the same time, and all get the same bits.
 #include "transform/samples.h"
 
 #include <cstring>
@@ -8,7 +8,7 @@
 namespace zors::test {
 namespace {
 
-TEST(Threads, ShareASpecification)
+TEST(Threads, ShareARecord)
 {
     constexpr int threads = 8;
     Random random;

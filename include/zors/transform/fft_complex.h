@@ -9,7 +9,7 @@
  */
 /**
  * Forward: X[k] = sum over j of x[j] e^(-2 pi i j k / N); inverse: x[j] = sum over k of X[k] e^(2 pi i j k / N); each
- * multiplied by what the specification's flag asks for.
+ * multiplied by what the record's flag asks for.
  *
  * The root mean square of the error is at most 0.40 eps sqrt(log2 N) of that of the result, eps being the element
  * type's, plus the rounding of a factor. Results do not depend on alignment, on who supplied the work buffer, or on
@@ -18,7 +18,7 @@
  * memory as in D. H. Bailey, FFTs in external or hierarchical memory, J. Supercomputing 4, 1990.
  * @param pSrc source vector of N elements
  * @param pDst destination vector of N elements; equal to @p pSrc or without overlap
- * @param pSpec specification of the same kind; tells length and scaling
+ * @param pSpec record of the same kind; tells length and scaling
  * @param pBuffer work buffer of the size that zorsFFTGetBufSize tells, at any address; null to have it allocated for
  * the time of the call
  * @return zorStsNullPointer for a null @p pSpec, then zorStsWrongContext for a record of another kind, then
@@ -40,7 +40,7 @@ ZORSAPI(ZorStatus, zorsFFTInv_CToC_64fc,
 /**
  * The transforms of zorsFFTFwd_CToC_32fc() and its kin in place.
  * @param pSrcDst vector of N elements
- * @param pSpec specification of the same kind; tells length and scaling
+ * @param pSpec record of the same kind; tells length and scaling
  * @param pBuffer work buffer of the size that zorsFFTGetBufSize tells, at any address; null to have it allocated for
  * the time of the call
  * @return zorStsNullPointer for a null @p pSpec, then zorStsWrongContext for a record of another kind, then
@@ -65,7 +65,7 @@ ZORSAPI(ZorStatus, zorsFFTInv_CToC_64fc_I,
  * @param pSrcIm imaginary parts of the source
  * @param pDstRe real parts of the destination; equal to @p pSrcRe or without overlap
  * @param pDstIm imaginary parts of the destination; equal to @p pSrcIm or without overlap
- * @param pSpec specification of the same kind; tells length and scaling
+ * @param pSpec record of the same kind; tells length and scaling
  * @param pBuffer work buffer of the size that zorsFFTGetBufSize tells, at any address; null to have it allocated for
  * the time of the call
  * @return zorStsNullPointer for a null @p pSpec, then zorStsWrongContext for a record of another kind, then
@@ -92,7 +92,7 @@ ZORSAPI(ZorStatus, zorsFFTInv_CToC_64f,
  * The same in place.
  * @param pSrcDstRe real parts
  * @param pSrcDstIm imaginary parts
- * @param pSpec specification of the same kind; tells length and scaling
+ * @param pSpec record of the same kind; tells length and scaling
  * @param pBuffer work buffer of the size that zorsFFTGetBufSize tells, at any address; null to have it allocated for
  * the time of the call
  * @return zorStsNullPointer for a null @p pSpec, then zorStsWrongContext for a record of another kind, then
@@ -112,12 +112,12 @@ ZORSAPI(ZorStatus, zorsFFTInv_CToC_64f_I,
  * @{
  */
 /**
- * The transforms of integers, scaled: the result, with what the specification's flag asks for, times 2^-scaleFactor,
+ * The transforms of integers, scaled: the result, with what the record's flag asks for, times 2^-scaleFactor,
  * rounded to nearest, ties to even, and saturated. 16-bit data are transformed in single precision, 32-bit data in
  * double precision; before the rounding the error is that of the floating transforms.
  * @param pSrc source vector of N elements
  * @param pDst destination vector of N elements; equal to @p pSrc or without overlap
- * @param pSpec specification of the same kind; tells length and scaling
+ * @param pSpec record of the same kind; tells length and scaling
  * @param scaleFactor any value
  * @param pBuffer work buffer of the size that zorsFFTGetBufSize tells, at any address; null to have it allocated for
  * the time of the call
@@ -144,7 +144,7 @@ ZORSAPI(ZorStatus, zorsFFTInv_CToC_32sc_Sfs,
 /**
  * The same in place.
  * @param pSrcDst vector of N elements
- * @param pSpec specification of the same kind; tells length and scaling
+ * @param pSpec record of the same kind; tells length and scaling
  * @param scaleFactor any value
  * @param pBuffer work buffer of the size that zorsFFTGetBufSize tells, at any address; null to have it allocated for
  * the time of the call
@@ -170,7 +170,7 @@ ZORSAPI(ZorStatus, zorsFFTInv_CToC_32sc_ISfs,
  * @param pSrcIm imaginary parts of the source
  * @param pDstRe real parts of the destination; equal to @p pSrcRe or without overlap
  * @param pDstIm imaginary parts of the destination; equal to @p pSrcIm or without overlap
- * @param pSpec specification of the same kind; tells length and scaling
+ * @param pSpec record of the same kind; tells length and scaling
  * @param scaleFactor any value
  * @param pBuffer work buffer of the size that zorsFFTGetBufSize tells, at any address; null to have it allocated for
  * the time of the call
@@ -198,7 +198,7 @@ ZORSAPI(ZorStatus, zorsFFTInv_CToC_32s_Sfs,
  * The same in place.
  * @param pSrcDstRe real parts
  * @param pSrcDstIm imaginary parts
- * @param pSpec specification of the same kind; tells length and scaling
+ * @param pSpec record of the same kind; tells length and scaling
  * @param scaleFactor any value
  * @param pBuffer work buffer of the size that zorsFFTGetBufSize tells, at any address; null to have it allocated for
  * the time of the call

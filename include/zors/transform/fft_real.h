@@ -19,11 +19,11 @@
 /**
  * Forward: the spectrum X[k] = sum over j of x[j] e^(-2 pi i j k / N) in the format that the name tells; inverse: the
  * sum over all N points of the spectrum, x[j] = sum over k of X[k] e^(2 pi i j k / N), so that both together give N
- * times the input. Each is multiplied by what the specification's flag asks for. The zeros of the CCS format are
+ * times the input. Each is multiplied by what the record's flag asks for. The zeros of the CCS format are
  * written and not read. Bounds are those of the complex transforms.
  * @param pSrc source vector: N numbers, a CCS spectrum N + 2 (2 for N = 1)
  * @param pDst destination vector of the same lengths; equal to @p pSrc or without overlap
- * @param pSpec specification of the same kind; tells length and scaling
+ * @param pSpec record of the same kind; tells length and scaling
  * @param pBuffer work buffer of the size that zorsFFTGetBufSize tells, at any address; null to have it allocated for
  * the time of the call
  * @return zorStsNullPointer for a null @p pSpec, then zorStsWrongContext for a record of another kind, then
@@ -61,7 +61,7 @@ ZORSAPI(ZorStatus, zorsFFTInv_PermToR_64f,
 /**
  * The same in place.
  * @param pSrcDst vector of N numbers, with a CCS spectrum of N + 2 (2 for N = 1)
- * @param pSpec specification of the same kind; tells length and scaling
+ * @param pSpec record of the same kind; tells length and scaling
  * @param pBuffer work buffer of the size that zorsFFTGetBufSize tells, at any address; null to have it allocated for
  * the time of the call
  * @return zorStsNullPointer for a null @p pSpec, then zorStsWrongContext for a record of another kind, then
@@ -93,13 +93,13 @@ ZORSAPI(ZorStatus, zorsFFTInv_PermToR_64f_I,
  * @{
  */
 /**
- * The transforms of integers, scaled: the result, with what the specification's flag asks for, times 2^-scaleFactor,
+ * The transforms of integers, scaled: the result, with what the record's flag asks for, times 2^-scaleFactor,
  * rounded to nearest, ties to even, and saturated. 16-bit data, and those with 32-bit spectra, are transformed in
  * single precision, 32-bit data in double precision; before the rounding the error is that of the floating transforms,
  * and that of 32-bit numbers in single precision where these are taken.
  * @param pSrc source vector: N numbers, a CCS spectrum N + 2 (2 for N = 1)
  * @param pDst destination vector of the same lengths; equal to @p pSrc or without overlap
- * @param pSpec specification of the same kind; tells length and scaling
+ * @param pSpec record of the same kind; tells length and scaling
  * @param scaleFactor any value
  * @param pBuffer work buffer of the size that zorsFFTGetBufSize tells, at any address; null to have it allocated for
  * the time of the call
@@ -144,7 +144,7 @@ ZORSAPI(ZorStatus, zorsFFTInv_CCSToR_32s16s_Sfs,
 /**
  * The same in place.
  * @param pSrcDst vector of N numbers, with a CCS spectrum of N + 2 (2 for N = 1)
- * @param pSpec specification of the same kind; tells length and scaling
+ * @param pSpec record of the same kind; tells length and scaling
  * @param scaleFactor any value
  * @param pBuffer work buffer of the size that zorsFFTGetBufSize tells, at any address; null to have it allocated for
  * the time of the call

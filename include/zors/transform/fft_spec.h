@@ -1,8 +1,8 @@
 /**
  * @file
- * Specifications of fast Fourier transforms: their sizes, and how they are made and released.
+ * Records of fast Fourier transforms: their sizes, and how they are made and released.
  *
- * A specification is read-only once it is made: any number of threads may use one at a time, each with a work
+ * A record is read-only once it is made: any number of threads may use one at a time, each with a work
  * buffer of its own. There is one kind for each type of data:
  *
  * | Kind | data | largest order | arithmetic |
@@ -22,12 +22,12 @@
  * @{
  */
 /**
- * The sizes in bytes of what a specification needs. Each that is not 0 has room for aligning it to 64 bytes, so
+ * The sizes in bytes of what a record needs. Each that is not 0 has room for aligning it to 64 bytes, so
  * memory at any address will do.
  * @param order the transform's length is N = 2^order
  * @param flag one of ZOR_FFT_SCALE_FWD, ZOR_FFT_SCALE_INV, ZOR_FFT_SCALE_SQRT, ZOR_FFT_SCALE_NONE
- * @param hint kept in the specification; any value, without influence on results
- * @param pSpecSize receives the size of the specification
+ * @param hint kept in the record; any value, without influence on results
+ * @param pSpecSize receives the size of the record
  * @param pInitSize receives the size of the memory that only the initialisation needs; 0 below order 11
  * @param pBufferSize receives the size of the work buffer; 0 where a transform needs none
  * @return zorStsBadFftOrder for @p order below 0 or above 30, then zorStsNullPointer for a null pointer, then
@@ -66,18 +66,18 @@ ZORSAPI(ZorStatus, zorsFFTGetSize_R_16s32s,
  * @{
  */
 /**
- * Makes a specification in memory of the caller, at its first address that is a multiple of 64. The specification
+ * Makes a record in memory of the caller, at its first address that is a multiple of 64. The record
  * points into itself and must not be moved.
- * @param ppSpec receives the specification
+ * @param ppSpec receives the record
  * @param order the transform's length is N = 2^order
  * @param flag one of ZOR_FFT_SCALE_FWD, ZOR_FFT_SCALE_INV, ZOR_FFT_SCALE_SQRT, ZOR_FFT_SCALE_NONE
- * @param hint kept in the specification; any value, without influence on results
- * @param pSpecMemory memory of the size that zorsFFTGetSize tells, for as long as the specification is used
+ * @param hint kept in the record; any value, without influence on results
+ * @param pSpecMemory memory of the size that zorsFFTGetSize tells, for as long as the record is used
  * @param pInitMemory memory for the time of this call; null where its size is 0
  * @return zorStsNullPointer for a null @p ppSpec, then zorStsBadFftOrder for @p order outside its range (integer
  * kinds: 0 to 30), then zorStsNullPointer for a null @p pSpecMemory, then zorStsBadFftFlag for an unknown @p flag,
  * then for integer kinds zorStsBadFftOrder above the largest order, then zorStsNullPointer for a null
- * @p pInitMemory that is needed, else zorStsOk. From the flag on an error leaves no valid specification in the memory.
+ * @p pInitMemory that is needed, else zorStsOk. From the flag on an error leaves no valid record in the memory.
  */
 ZORSAPI(ZorStatus, zorsFFTInit_C_16sc,
         (ZorsFFTSpec_C_16sc** ppSpec, int order, int flag, ZorHintAlgorithm hint, Zor8u* pSpecMemory,
@@ -124,11 +124,11 @@ ZORSAPI(ZorStatus, zorsFFTInit_R_16s32s,
  * @{
  */
 /**
- * Makes a specification in memory of the library, to be released by zorsFFTFree.
- * @param ppSpec receives the specification; unchanged after an error
+ * Makes a record in memory of the library, to be released by zorsFFTFree.
+ * @param ppSpec receives the record; unchanged after an error
  * @param order the transform's length is N = 2^order
  * @param flag one of ZOR_FFT_SCALE_FWD, ZOR_FFT_SCALE_INV, ZOR_FFT_SCALE_SQRT, ZOR_FFT_SCALE_NONE
- * @param hint kept in the specification; any value, without influence on results
+ * @param hint kept in the record; any value, without influence on results
  * @return zorStsNullPointer for a null @p ppSpec, then zorStsBadFftOrder and zorStsBadFftFlag as zorsFFTGetSize, then
  * zorStsNoMemory where an allocation fails, else zorStsOk
  */
@@ -164,10 +164,10 @@ ZORSAPI(ZorStatus, zorsFFTInitAlloc_R_16s32s,
  * @{
  */
 /**
- * Invalidates a specification, and releases its memory where it is the library's.
- * @param pSpec specification
+ * Invalidates a record, and releases its memory where it is the library's.
+ * @param pSpec record
  * @return zorStsNullPointer for a null @p pSpec, then zorStsWrongContext for a record of another kind or one in the
- * caller's memory that was released, else zorStsOk. (A released record of the library's is no longer there to be asked.)
+ * caller's memory that was released, else zorStsOk. (One of the library's is no longer there to be asked.)
  */
 ZORSAPI(ZorStatus, zorsFFTFree_C_16sc, (ZorsFFTSpec_C_16sc* pSpec))
 ZORSAPI(ZorStatus, zorsFFTFree_C_16s, (ZorsFFTSpec_C_16s* pSpec))
@@ -189,7 +189,7 @@ ZORSAPI(ZorStatus, zorsFFTFree_R_16s32s, (ZorsFFTSpec_R_16s32s* pSpec))
  */
 /**
  * The size of the work buffer that the transforms take, as zorsFFTGetSize tells it.
- * @param pSpec specification
+ * @param pSpec record
  * @param pBufferSize receives the size in bytes; 0 where none is needed
  * @return zorStsNullPointer for a null @p pSpec, then zorStsWrongContext for a record of another kind, then
  * zorStsNullPointer for a null @p pBufferSize, else zorStsOk
