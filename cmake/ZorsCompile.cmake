@@ -10,8 +10,11 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
 find_program(ZORS_CCACHE ccache)
 if(ZORS_CCACHE)
-  set(CMAKE_C_COMPILER_LAUNCHER ${ZORS_CCACHE})
-  set(CMAKE_CXX_COMPILER_LAUNCHER ${ZORS_CCACHE})
+  # What ccache asks for before it takes a source with a precompiled header.
+  set(launcher ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${ZORS_CCACHE})
+  set(CMAKE_C_COMPILER_LAUNCHER ${launcher})
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${launcher})
+  add_compile_options($<$<COMPILE_LANG_AND_ID:CXX,GNU>:-fpch-preprocess>)
 endif()
 
 if(PROJECT_IS_TOP_LEVEL)

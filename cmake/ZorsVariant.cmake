@@ -39,12 +39,14 @@ function(zors_closed_object out variant)
   add_library(${target} OBJECT ${ARGN})
   zors_variant_options(${target} ${variant})
   set(object ${CMAKE_CURRENT_BINARY_DIR}/${target}.o)
+  # g++ counts the precompiled header among the objects.
+  set(objects "$<FILTER:$<TARGET_OBJECTS:${target}>,EXCLUDE,[.]gch$>")
   add_custom_command(
     OUTPUT ${object}
-    COMMAND ${ZORS_LD} -r --force-group-allocation -o ${object}.open $<TARGET_OBJECTS:${target}>
+    COMMAND ${ZORS_LD} -r --force-group-allocation -o ${object}.open ${objects}
     COMMAND ${ZORS_OBJCOPY} --keep-global-symbol=none ${object}.open ${object}
     COMMAND ${CMAKE_COMMAND} -E rm ${object}.open
-    DEPENDS ${target} $<TARGET_OBJECTS:${target}>
+    DEPENDS ${target} ${objects}
     COMMAND_EXPAND_LISTS VERBATIM
     COMMENT "Closing variant ${variant}")
   set_source_files_properties(${object} PROPERTIES EXTERNAL_OBJECT ON GENERATED ON)
