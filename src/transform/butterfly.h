@@ -112,7 +112,7 @@ template <int S, class V>
     if constexpr (S % 4 == 0)
         dft2(a, b);
     else
-        addScaled(a, b, constant<V>(static_cast<T>(sqrtHalf)));
+        addScaled(a, b, constant<V>(static_cast<T>(S % 2 ? cosPi8 : sqrtHalf)));
 }
 
 template <int S, class V>

@@ -55,13 +55,17 @@ constexpr std::int64_t workBytes(int order)
 template <int W, class T, class Arrays>
 inline void sortedTransform(int order, const Arrays& io, const T* factor, T* work, const T* factors)
 {
-    const auto in = io.template source<W>();
-    const auto out = io.template sink<W>();
-    const auto room = io.template room<W>();
-    if (factor)
-        sortedTransform<W>(order, in, Scaled<T, decltype(out)>{out, *factor}, room, work, factors);
-    else
-        sortedTransform<W>(order, in, out, room, work, factors);
+    const std::ptrdiff_t rows = (std::ptrdiff_t{1} << order) / W;
+    if (rows <= mostRowsInRegisters) {
+        scaledBy(factor, io.template sink<W>(), [&](const auto& out) {
+            inRegisters<W>(static_cast<int>(rows), io.template source<W>(), out, factors);
+        });
+    } else {
+        constexpr bool halved = turnsHalves<T>(W);
+        scaledBy(factor, io.template sink < halved ? W / 2 : W > (), [&](const auto& out) {
+            inPasses<W>(order, io.template source<W, halved>(), out, io.template room<W>(), work, factors);
+        });
+    }
 }
 
 template <class T, class Arrays>

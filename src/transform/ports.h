@@ -19,6 +19,12 @@ constexpr int rowOfLane(int lane)
     return block * half + inside % half + (inside < half ? 0 : W / 2);
 }
 
+// Where the halves of a row are taken one by one, even columns are in the lower half and odd ones in the upper.
+template <int W>
+struct EvenFirst {
+    constexpr int operator()(int lane) const { return lane % (W / 2) * 2 + lane / (W / 2); }
+};
+
 // A port is asked for some rows at once: from<R>(row, stride) are R rows, row, row + n, ..., where stride(n) is that
 // distance in memory; closeFrom<n>(row) are the same where rows follow one another without a gap. every(n, row) is a
 // port to every n-th row.
@@ -57,8 +63,8 @@ struct Rows {
     }
 };
 
-// In two arrays. The distance of rows is that of two columns.
-template <class T, int W>
+// In two arrays. The distance of rows is that of two columns. Halved is for sources: lanes in the order EvenFirst.
+template <class T, int W, bool Halved = false>
 struct Apart {
     T* re;
     T* im;
@@ -68,7 +74,14 @@ struct Apart {
     struct Some {
         At re, im;
 
-        [[gnu::always_inline]] Cx<Vec<T, W>> get(int i) const { return {load<W>(re[i]), load<W>(im[i])}; }
+        [[gnu::always_inline]] Cx<Vec<T, W>> get(int i) const
+        {
+            const Cx<Vec<T, W>> v = {load<W>(re[i]), load<W>(im[i])};
+            if constexpr (Halved)
+                return {permute<EvenFirst<W>>(v.re), permute<EvenFirst<W>>(v.im)};
+            else
+                return v;
+        }
         [[gnu::always_inline]] void put(int i, Cx<Vec<T, W>> v) const
         {
             store<W>(re[i], v.re);
@@ -106,7 +119,7 @@ struct Apart {
 };
 
 // Complex pairs. Swapped exchanges the parts, which turns the forward transform into the inverse.
-template <class T, int W, bool Swapped>
+template <class T, int W, bool Swapped, bool Halved = false>
 struct Pairs {
     T* p;
     std::ptrdiff_t numbers; // from row to row
@@ -117,7 +130,7 @@ struct Pairs {
 
         [[gnu::always_inline]] Cx<Vec<T, W>> get(int i) const
         {
-            const auto v = deinterleave(load<W>(at[i]), load<W>(at[i] + W));
+            const auto v = apart(load<W>(at[i]), load<W>(at[i] + W));
             return Swapped ? Cx<Vec<T, W>>{v.second, v.first} : Cx<Vec<T, W>>{v.first, v.second};
         }
         [[gnu::always_inline]] void put(int i, Cx<Vec<T, W>> v) const
@@ -132,6 +145,20 @@ struct Pairs {
             unpack(a, b);
             store<W>(at[i], a);
             store<W>(at[i] + W, b);
+        }
+
+        static Pair<Vec<T, W>> apart(Vec<T, W> a, Vec<T, W> b)
+        {
+            struct Re {
+                constexpr int operator()(int i) const { return 2 * EvenFirst<W>{}(i); }
+            };
+            struct Im {
+                constexpr int operator()(int i) const { return Re{}(i) + 1; }
+            };
+            if constexpr (Halved)
+                return {permute<Re>(a, b), permute<Im>(a, b)};
+            else
+                return deinterleave(a, b);
         }
     };
     Stride stride(std::ptrdiff_t rows) const { return Stride(rows * numbers * std::ptrdiff_t{sizeof(T)}); }
@@ -191,6 +218,16 @@ struct Scaled {
     }
 };
 
+// run(sink), which multiplies by the factor where there is one.
+template <class T, class Sink, class Run>
+inline void scaledBy(const T* factor, const Sink& sink, const Run& run)
+{
+    if (factor)
+        run(Scaled<T, Sink>{sink, *factor});
+    else
+        run(sink);
+}
+
 // What a caller hands over: N complex pairs, or two arrays of N numbers. The inverse of the latter is the forward
 // transform with real and imaginary arrays in exchanged places.
 template <class T, bool Swapped>
@@ -207,8 +244,8 @@ struct PairedArrays {
         dst[2 * i] = Swapped ? v.im : v.re;
         dst[2 * i + 1] = Swapped ? v.re : v.im;
     }
-    template <int W>
-    Pairs<T, W, Swapped> source(std::ptrdiff_t stride = W, std::ptrdiff_t first = 0) const
+    template <int W, bool Halved = false>
+    Pairs<T, W, Swapped, Halved> source(std::ptrdiff_t stride = W, std::ptrdiff_t first = 0) const
     {
         return {const_cast<T*>(src) + 2 * first, 2 * stride};
     }
@@ -239,8 +276,8 @@ struct SplitArrays {
         dstRe[i] = v.re;
         dstIm[i] = v.im;
     }
-    template <int W>
-    Apart<T, W> source(std::ptrdiff_t stride = W, std::ptrdiff_t first = 0) const
+    template <int W, bool Halved = false>
+    Apart<T, W, Halved> source(std::ptrdiff_t stride = W, std::ptrdiff_t first = 0) const
     {
         return {const_cast<T*>(srcRe) + first, const_cast<T*>(srcIm) + first, stride};
     }

@@ -3,6 +3,8 @@
 
 #include "sorted.h"
 
+#include <array>
+
 namespace zors::ZORS_VARIANT {
 
 inline constexpr int mostSmallOrder = 5;
@@ -158,13 +160,9 @@ inline void smallTransform(const Arrays& io, const T* factor)
 {
     constexpr int w = lanesForOrder<T>(Order);
     constexpr int rows = (1 << Order) / w;
-    const auto in = io.template source<w>();
-    const auto out = io.template sink<w>();
-    const T* factors = smallFactors<T, Order>.data();
-    if (factor)
-        inRegisters<w, rows>(in, Scaled<T, decltype(out)>{out, *factor}, factors);
-    else
-        inRegisters<w, rows>(in, out, factors);
+    scaledBy(factor, io.template sink<w>(), [&](const auto& out) {
+        inRegisters<w, rows>(io.template source<w>(), out, smallFactors<T, Order>.data());
+    });
 }
 
 template <class T, class Arrays>
