@@ -36,8 +36,8 @@ void expectHalves(int order, int tableOrder)
     shuffleHalves(io, static_cast<std::ptrdiff_t>(n), static_cast<double*>(room.get()));
 
     test::RelativeError error;
-    error.add(test::pointsFrom(test::readNumbers(dst, side.number, 2 * n), side.format),
-              test::dft(test::pointsFrom(numbers, side.format)));
+    error.add(test::pointsFrom(test::readNumbers(dst, side.number, 2 * n), side.format, order),
+              test::dft(test::pointsFrom(numbers, side.format, order)));
     EXPECT_LT(error.value(), 0.4 * std::numeric_limits<double>::epsilon() * std::sqrt(order));
 }
 

@@ -45,6 +45,14 @@ inline std::vector<Wide> randomNumbers(const Side& side, int order, Random& rand
     return numbers;
 }
 
+// The numbers of a transform's input in memory; a cache line more than they take, to move them about.
+inline Memory randomInput(const Transform& t, int order, Random& random)
+{
+    Memory memory(t.in.bytes(order) + 64);
+    writeNumbers(randomNumbers(t.in, order, random), t.in.number, memory.get());
+    return memory;
+}
+
 // What a record multiplies by.
 inline Wide factorOf(int flag, bool inverse, int order)
 {

@@ -2,59 +2,76 @@
 
 #include <algorithm>
 #include <cmath>
+#include <tuple>
 
 namespace zors::test {
 namespace {
 
-template <class T>
-const T* in(const void* p, std::size_t at = 0)
+// Calls the body with an element of the type that the numbers have in memory.
+template <class Body>
+auto withElement(Number number, Body body)
 {
-    return static_cast<const T*>(p) + at;
-}
-
-template <class T>
-T* out(void* p, std::size_t at = 0)
-{
-    return static_cast<T*>(p) + at;
-}
-
-template <class T>
-void writeAs(const std::vector<Wide>& numbers, void* memory)
-{
-    for (std::size_t i = 0; i < numbers.size(); ++i) {
-        Wide x = numbers[i];
-        if constexpr (std::is_integral_v<T>)
-            x = std::clamp<Wide>(std::nearbyint(x), std::numeric_limits<T>::min(),
-                                 std::numeric_limits<T>::max());
-        static_cast<T*>(memory)[i] = static_cast<T>(x);
+    switch (number) {
+    case Number::int16:
+        return body(Zor16s{});
+    case Number::int32:
+        return body(Zor32s{});
+    case Number::float32:
+        return body(Zor32f{});
+    default:
+        return body(Zor64f{});
     }
 }
 
-template <class T>
-std::vector<Wide> readAs(const void* memory, std::size_t count)
-{
-    return {static_cast<const T*>(memory), static_cast<const T*>(memory) + count};
-}
+// The arguments of any transform, one after the other, each by what its parameter is.
+struct Arguments {
+    const void* src;
+    void* dst;
+    const void* spec;
+    std::ptrdiff_t points;
+    int scaleFactor;
+    Zor8u* buffer;
+    std::ptrdiff_t sources = 0, destinations = 0;
 
-// Where the first half of a spectrum stands among the numbers of a format.
-struct Places {
-    std::size_t n;
-    Format format;
-
-    std::size_t real(std::size_t k) const
+    template <class A>
+    A next()
     {
-        if (k == 0) return 0;
-        if (2 * k == n && format == Format::perm) return 1;
-        return format == Format::pack ? 2 * k - 1 : 2 * k;
+        if constexpr (std::is_same_v<A, int>)
+            return scaleFactor;
+        else if constexpr (std::is_same_v<A, Zor8u*>)
+            return buffer;
+        else if constexpr (!requires { sizeof(std::remove_pointer_t<A>); })
+            return static_cast<A>(spec);
+        else if constexpr (std::is_const_v<std::remove_pointer_t<A>>)
+            return static_cast<A>(src) + points * sources++;
+        else
+            return static_cast<A>(dst) + points * destinations++;
     }
-    bool hasImaginary(std::size_t k) const { return format == Format::ccs || (k > 0 && 2 * k < n); }
+
+    template <class... A>
+    ZorStatus call(ZorStatus (*function)(A...))
+    {
+        return std::apply(function, std::tuple<A...>{next<A>()...});
+    }
 };
+
+template <auto function>
+ZorStatus run(const void* src, void* dst, const void* spec, int order, int scaleFactor, Zor8u* buffer)
+{
+    return Arguments{src, dst, spec, std::ptrdiff_t{1} << order, scaleFactor, buffer}.call(function);
+}
+
+template <auto function>
+ZorStatus runInPlace(void* data, const void* spec, int order, int scaleFactor, Zor8u* buffer)
+{
+    return run<function>(nullptr, data, spec, order, scaleFactor, buffer);
+}
 
 } // namespace
 
 std::size_t bytesOf(Number number)
 {
-    return number == Number::int16 ? 2 : number == Number::float64 ? 8 : 4;
+    return withElement(number, [](auto x) { return sizeof x; });
 }
 
 bool isFloating(Number number)
@@ -62,11 +79,28 @@ bool isFloating(Number number)
     return number == Number::float32 || number == Number::float64;
 }
 
-std::size_t numbersOf(Format format, int order)
+std::size_t Places::numbers() const
 {
-    const std::size_t n = std::size_t{1} << order;
     if (format == Format::pairs || format == Format::split) return 2 * n;
-    return format != Format::ccs ? n : n == 1 ? 2 : n + 2;
+    return format == Format::ccs ? 2 * (n / 2 + 1) : n;
+}
+
+std::size_t Places::points() const
+{
+    return isSpectrum() ? n / 2 + 1 : n;
+}
+
+std::size_t Places::real(std::size_t k) const
+{
+    if (k == 0 || format == Format::split || format == Format::real) return k;
+    if (2 * k == n && format == Format::perm) return 1;
+    const bool even = n % 2 == 0;
+    return format == Format::pack || (format == Format::perm && !even) ? 2 * k - 1 : 2 * k;
+}
+
+std::size_t Places::imaginary(std::size_t k) const
+{
+    return format == Format::split ? n + k : real(k) + 1;
 }
 
 double Transform::epsilon() const
@@ -78,231 +112,95 @@ double Transform::epsilon() const
 
 std::vector<Wide> numbersFrom(const WideVector& points, Format format)
 {
-    const std::size_t n = points.size();
-    std::vector<Wide> numbers;
-    if (format == Format::pairs) {
-        for (const auto& p : points) numbers.insert(numbers.end(), {p.real(), p.imag()});
-    } else if (format == Format::split || format == Format::real) {
-        for (const auto& p : points) numbers.push_back(p.real());
-        if (format == Format::split)
-            for (const auto& p : points) numbers.push_back(p.imag());
-    } else {
-        numbers.resize(format == Format::ccs ? n / 2 * 2 + 2 : n);
-        const Places at{n, format};
-        for (std::size_t k = 0; 2 * k <= n; ++k) {
-            numbers[at.real(k)] = points[k].real();
-            if (at.hasImaginary(k)) numbers[at.real(k) + 1] = points[k].imag();
-            if (n == 1) break;
-        }
+    const Places at{format, points.size()};
+    std::vector<Wide> numbers(at.numbers());
+    for (std::size_t k = 0; k < at.points(); ++k) {
+        numbers[at.real(k)] = points[k].real();
+        if (at.hasImaginary(k)) numbers[at.imaginary(k)] = points[k].imag();
     }
     return numbers;
 }
 
-WideVector pointsFrom(const std::vector<Wide>& numbers, Format format)
+WideVector pointsFrom(const std::vector<Wide>& numbers, Format format, int order)
 {
-    const std::size_t count = numbers.size();
-    const std::size_t n = format == Format::pairs || format == Format::split ? count / 2
-                          : format != Format::ccs                            ? count
-                          : count == 2                                       ? 1
-                                                                             : count - 2;
-    WideVector points(n);
-    if (format == Format::pairs) {
-        for (std::size_t i = 0; i < n; ++i) points[i] = {numbers[2 * i], numbers[2 * i + 1]};
-    } else if (format == Format::split) {
-        for (std::size_t i = 0; i < n; ++i) points[i] = {numbers[i], numbers[n + i]};
-    } else if (format == Format::real) {
-        for (std::size_t i = 0; i < n; ++i) points[i] = numbers[i];
-    } else {
-        const Places at{n, format};
-        for (std::size_t k = 0; k <= n / 2 && k < n; ++k) {
-            points[k] = {numbers[at.real(k)], at.hasImaginary(k) ? numbers[at.real(k) + 1] : 0};
-            if (k > 0) points[n - k] = std::conj(points[k]);
-        }
+    const Places at{format, std::size_t{1} << order};
+    WideVector points(at.n);
+    for (std::size_t k = 0; k < at.points(); ++k) {
+        points[k] = {numbers[at.real(k)], at.hasImaginary(k) ? numbers[at.imaginary(k)] : 0};
+        if (at.isSpectrum() && k > 0) points[at.n - k] = std::conj(points[k]);
     }
     return points;
 }
 
 void writeNumbers(const std::vector<Wide>& numbers, Number number, void* memory)
 {
-    switch (number) {
-    case Number::int16:
-        return writeAs<Zor16s>(numbers, memory);
-    case Number::int32:
-        return writeAs<Zor32s>(numbers, memory);
-    case Number::float32:
-        return writeAs<Zor32f>(numbers, memory);
-    case Number::float64:
-        return writeAs<Zor64f>(numbers, memory);
-    }
+    withElement(number, [&]<class T>(T) {
+        using Limits = std::numeric_limits<T>;
+        for (std::size_t i = 0; i < numbers.size(); ++i) {
+            Wide x = numbers[i];
+            if (Limits::is_integer) x = std::clamp<Wide>(std::nearbyint(x), Limits::min(), Limits::max());
+            static_cast<T*>(memory)[i] = static_cast<T>(x);
+        }
+    });
 }
 
 std::vector<Wide> readNumbers(const void* memory, Number number, std::size_t count)
 {
-    switch (number) {
-    case Number::int16:
-        return readAs<Zor16s>(memory, count);
-    case Number::int32:
-        return readAs<Zor32s>(memory, count);
-    case Number::float32:
-        return readAs<Zor32f>(memory, count);
-    default:
-        return readAs<Zor64f>(memory, count);
-    }
+    return withElement(number, [=]<class T>(T) {
+        const auto* first = static_cast<const T*>(memory);
+        return std::vector<Wide>(first, first + count);
+    });
 }
 
-#define ZORS_SPEC(kind) static_cast<const ZorsFFTSpec_##kind*>(spec)
-#define ZORS_ARGUMENTS const void *src, void *dst, const void *spec, int order, int scale, Zor8u *buffer
-#define ZORS_IN_PLACE void *data, const void *spec, int order, int scale, Zor8u *buffer
-#define ZORS_HALF (std::size_t{1} << order)
-
-#define ZORS_PAIRS(direction, inverse, type, number)                                                         \
+#define ZORS_ONE(name, record, inverse, from, to, type, number, suffix, inPlace)                             \
     Transform                                                                                                \
     {                                                                                                        \
-#direction "_CToC_" #type, &kind("C_" #type), inverse, {Format::pairs, Number::number},              \
-            {Format::pairs, Number::number},                                                                 \
-            [](ZORS_ARGUMENTS) {                                                                             \
-                (void)order, (void)scale;                                                                    \
-                return zorsFFT##direction##_CToC_##type(in<Zor##type>(src), out<Zor##type>(dst),             \
-                                                        ZORS_SPEC(C_##type), buffer);                        \
-            },                                                                                               \
-            [](ZORS_IN_PLACE) {                                                                              \
-                (void)order, (void)scale;                                                                    \
-                return zorsFFT##direction##_CToC_##type##_I(out<Zor##type>(data), ZORS_SPEC(C_##type),       \
-                                                            buffer);                                         \
-            }       \
+#name "_" #type, &kind(#record "_" #type), inverse,                                                  \
+            {Format::from, Number::number },                                                                 \
+             {Format::to, Number::number }, run < zorsFFT##name##_##type##suffix>,                           \
+              runInPlace < zorsFFT##name##_##type##inPlace>                                                  \
     }
 
-#define ZORS_SPLIT(direction, inverse, type, number)                                                         \
-    Transform                                                                                                \
-    {                                                                                                        \
-#direction "_CToC_" #type, &kind("C_" #type), inverse, {Format::split, Number::number},              \
-            {Format::split, Number::number},                                                                 \
-            [](ZORS_ARGUMENTS) {                                                                             \
-                (void)scale;                                                                                 \
-                return zorsFFT##direction##_CToC_##type(                                                     \
-                    in<Zor##type>(src), in<Zor##type>(src, ZORS_HALF), out<Zor##type>(dst),                  \
-                    out<Zor##type>(dst, ZORS_HALF), ZORS_SPEC(C_##type), buffer);                            \
-            },                                                                                               \
-            [](ZORS_IN_PLACE) {                                                                              \
-                (void)scale;                                                                                 \
-                return zorsFFT##direction##_CToC_##type##_I(out<Zor##type>(data),                            \
-                                                            out<Zor##type>(data, ZORS_HALF),                 \
-                                                            ZORS_SPEC(C_##type), buffer);                    \
-            }       \
-    }
+#define ZORS_COMPLEX(format, ...)                                                                            \
+    ZORS_ONE(Fwd_CToC, C, false, format, format, __VA_ARGS__),                                               \
+        ZORS_ONE(Inv_CToC, C, true, format, format, __VA_ARGS__)
 
-#define ZORS_INTEGER_PAIRS(direction, inverse, type, number)                                                 \
-    Transform                                                                                                \
-    {                                                                                                        \
-#direction "_CToC_" #type, &kind("C_" #type), inverse, {Format::pairs, Number::number},              \
-            {Format::pairs, Number::number},                                                                 \
-            [](ZORS_ARGUMENTS) {                                                                             \
-                (void)order;                                                                                 \
-                return zorsFFT##direction##_CToC_##type##_Sfs(in<Zor##type>(src), out<Zor##type>(dst),       \
-                                                              ZORS_SPEC(C_##type), scale, buffer);           \
-            },                                                                                               \
-            [](ZORS_IN_PLACE) {                                                                              \
-                (void)order;                                                                                 \
-                return zorsFFT##direction##_CToC_##type##_ISfs(out<Zor##type>(data), ZORS_SPEC(C_##type),    \
-                                                               scale, buffer);                               \
-            }       \
-    }
-
-#define ZORS_INTEGER_SPLIT(direction, inverse, type, number)                                                 \
-    Transform                                                                                                \
-    {                                                                                                        \
-#direction "_CToC_" #type, &kind("C_" #type), inverse, {Format::split, Number::number},              \
-            {Format::split, Number::number},                                                                 \
-            [](ZORS_ARGUMENTS) {                                                                             \
-                return zorsFFT##direction##_CToC_##type##_Sfs(                                               \
-                    in<Zor##type>(src), in<Zor##type>(src, ZORS_HALF), out<Zor##type>(dst),                  \
-                    out<Zor##type>(dst, ZORS_HALF), ZORS_SPEC(C_##type), scale, buffer);                     \
-            },                                                                                               \
-            [](ZORS_IN_PLACE) {                                                                              \
-                return zorsFFT##direction##_CToC_##type##_ISfs(out<Zor##type>(data),                         \
-                                                               out<Zor##type>(data, ZORS_HALF),              \
-                                                               ZORS_SPEC(C_##type), scale, buffer);          \
-            }       \
-    }
-
-#define ZORS_REAL(way, inverse, from, to, type, number)                                                      \
-    Transform                                                                                                \
-    {                                                                                                        \
-#way "_" #type, &kind("R_" #type), inverse, {Format::from, Number::number},                          \
-            {Format::to, Number::number},                                                                    \
-            [](ZORS_ARGUMENTS) {                                                                             \
-                (void)order, (void)scale;                                                                    \
-                return zorsFFT##way##_##type(in<Zor##type>(src), out<Zor##type>(dst), ZORS_SPEC(R_##type),   \
-                                             buffer);                                                        \
-            },                                                                                               \
-            [](ZORS_IN_PLACE) {                                                                              \
-                (void)order, (void)scale;                                                                    \
-                return zorsFFT##way##_##type##_I(out<Zor##type>(data), ZORS_SPEC(R_##type), buffer);         \
-            }       \
-    }
-
-#define ZORS_INTEGER_REAL(way, inverse, from, to, type, number)                                              \
-    Transform                                                                                                \
-    {                                                                                                        \
-#way "_" #type, &kind("R_" #type), inverse, {Format::from, Number::number},                          \
-            {Format::to, Number::number},                                                                    \
-            [](ZORS_ARGUMENTS) {                                                                             \
-                (void)order;                                                                                 \
-                return zorsFFT##way##_##type##_Sfs(in<Zor##type>(src), out<Zor##type>(dst),                  \
-                                                   ZORS_SPEC(R_##type), scale, buffer);                      \
-            },                                                                                               \
-            [](ZORS_IN_PLACE) {                                                                              \
-                (void)order;                                                                                 \
-                return zorsFFT##way##_##type##_ISfs(out<Zor##type>(data), ZORS_SPEC(R_##type), scale,        \
-                                                    buffer);                                                 \
-            }       \
-    }
-
-#define ZORS_BOTH(make, type, number) make(Fwd, false, type, number), make(Inv, true, type, number)
-
-#define ZORS_FORMATS(make, type, number)                                                                     \
-    make(Fwd_RToCCS, false, real, ccs, type, number), make(Inv_CCSToR, true, ccs, real, type, number),       \
-        make(Fwd_RToPack, false, real, pack, type, number),                                                  \
-        make(Inv_PackToR, true, pack, real, type, number),                                                   \
-        make(Fwd_RToPerm, false, real, perm, type, number),                                                  \
-        make(Inv_PermToR, true, perm, real, type, number)
+#define ZORS_REAL(...)                                                                                       \
+    ZORS_ONE(Fwd_RToCCS, R, false, real, ccs, __VA_ARGS__),                                                  \
+        ZORS_ONE(Inv_CCSToR, R, true, ccs, real, __VA_ARGS__),                                               \
+        ZORS_ONE(Fwd_RToPack, R, false, real, pack, __VA_ARGS__),                                            \
+        ZORS_ONE(Inv_PackToR, R, true, pack, real, __VA_ARGS__),                                             \
+        ZORS_ONE(Fwd_RToPerm, R, false, real, perm, __VA_ARGS__),                                            \
+        ZORS_ONE(Inv_PermToR, R, true, perm, real, __VA_ARGS__)
 
 const std::vector<Transform>& transforms()
 {
     static const std::vector<Transform> all = {
-        ZORS_BOTH(ZORS_PAIRS, 32fc, float32),
-        ZORS_BOTH(ZORS_PAIRS, 64fc, float64),
-        ZORS_BOTH(ZORS_SPLIT, 32f, float32),
-        ZORS_BOTH(ZORS_SPLIT, 64f, float64),
-        ZORS_FORMATS(ZORS_REAL, 32f, float32),
-        ZORS_FORMATS(ZORS_REAL, 64f, float64),
-        ZORS_BOTH(ZORS_INTEGER_PAIRS, 16sc, int16),
-        ZORS_BOTH(ZORS_INTEGER_PAIRS, 32sc, int32),
-        ZORS_BOTH(ZORS_INTEGER_SPLIT, 16s, int16),
-        ZORS_BOTH(ZORS_INTEGER_SPLIT, 32s, int32),
-        ZORS_FORMATS(ZORS_INTEGER_REAL, 16s, int16),
-        ZORS_FORMATS(ZORS_INTEGER_REAL, 32s, int32),
+        ZORS_COMPLEX(pairs, 32fc, float32, , _I),
+        ZORS_COMPLEX(pairs, 64fc, float64, , _I),
+        ZORS_COMPLEX(split, 32f, float32, , _I),
+        ZORS_COMPLEX(split, 64f, float64, , _I),
+        ZORS_REAL(32f, float32, , _I),
+        ZORS_REAL(64f, float64, , _I),
+        ZORS_COMPLEX(pairs, 16sc, int16, _Sfs, _ISfs),
+        ZORS_COMPLEX(pairs, 32sc, int32, _Sfs, _ISfs),
+        ZORS_COMPLEX(split, 16s, int16, _Sfs, _ISfs),
+        ZORS_COMPLEX(split, 32s, int32, _Sfs, _ISfs),
+        ZORS_REAL(16s, int16, _Sfs, _ISfs),
+        ZORS_REAL(32s, int32, _Sfs, _ISfs),
         Transform{"Fwd_RToCCS_16s32s",
                   &kind("R_16s32s"),
                   false,
                   {Format::real, Number::int16},
                   {Format::ccs, Number::int32},
-                  [](ZORS_ARGUMENTS) {
-                      (void)order;
-                      return zorsFFTFwd_RToCCS_16s32s_Sfs(in<Zor16s>(src), out<Zor32s>(dst),
-                                                          ZORS_SPEC(R_16s32s), scale, buffer);
-                  },
+                  run<zorsFFTFwd_RToCCS_16s32s_Sfs>,
                   nullptr},
         Transform{"Inv_CCSToR_32s16s",
                   &kind("R_16s32s"),
                   true,
                   {Format::ccs, Number::int32},
                   {Format::real, Number::int16},
-                  [](ZORS_ARGUMENTS) {
-                      (void)order;
-                      return zorsFFTInv_CCSToR_32s16s_Sfs(in<Zor32s>(src), out<Zor16s>(dst),
-                                                          ZORS_SPEC(R_16s32s), scale, buffer);
-                  },
+                  run<zorsFFTInv_CCSToR_32s16s_Sfs>,
                   nullptr},
     };
     return all;

@@ -14,14 +14,29 @@ enum class Number { int16, int32, float32, float64 };
 std::size_t bytesOf(Number number);
 bool isFloating(Number number);
 
-// How many numbers N = 2^order points take.
-std::size_t numbersOf(Format format, int order);
+// Where N points stand among the numbers of a format; of a spectrum, the first half of them.
+struct Places {
+    Format format;
+    std::size_t n;
+
+    bool isSpectrum() const { return format >= Format::ccs; }
+    std::size_t numbers() const;
+    std::size_t points() const;
+    std::size_t real(std::size_t k) const;
+    std::size_t imaginary(std::size_t k) const;
+    // CCS stores the zeros of the first and the last point, too.
+    bool hasImaginary(std::size_t k) const
+    {
+        return isSpectrum() ? format == Format::ccs || !isReal(k) : format != Format::real;
+    }
+    bool isReal(std::size_t k) const { return k == 0 || 2 * k == n; }
+};
 
 struct Side {
     Format format;
     Number number;
 
-    std::size_t numbers(int order) const { return numbersOf(format, order); }
+    std::size_t numbers(int order) const { return Places{format, std::size_t{1} << order}.numbers(); }
     std::size_t bytes(int order) const { return numbers(order) * bytesOf(number); }
 };
 
@@ -44,7 +59,7 @@ const std::vector<Transform>& transforms();
 // All N points from and to the numbers of a format. Real numbers are points without imaginary parts; a spectrum's
 // second half is the mirror of its first.
 std::vector<Wide> numbersFrom(const WideVector& points, Format format);
-WideVector pointsFrom(const std::vector<Wide>& numbers, Format format);
+WideVector pointsFrom(const std::vector<Wide>& numbers, Format format, int order);
 
 // Numbers as they lie in memory, and back. Integers are rounded and saturated.
 void writeNumbers(const std::vector<Wide>& numbers, Number number, void* memory);
