@@ -1,41 +1,14 @@
-// Allocation, with the program's own zorMalloc and zorFree before those of the core library.
-#include <zorcore.h>
+// Allocation, seen from the core library's place.
+#include "support/allocator.h"
+
 #include <zors.h>
 
 #include <cstdint>
-#include <cstring>
-#include <dlfcn.h>
 #include <gtest/gtest.h>
-#include <optional>
-#include <vector>
 
 namespace {
 
-std::vector<int> sizesAsked;
-std::vector<void*> pointersFreed;
-std::optional<void*> reply; // instead of memory
-
-template <class Function>
-Function* next(const char* name)
-{
-    return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
-}
-
-} // namespace
-
-void* zorMalloc(int size)
-{
-    sizesAsked.push_back(size);
-    return reply ? *reply : next<void*(int)>("zorMalloc")(size);
-}
-
-void zorFree(void* pMemory)
-{
-    pointersFreed.push_back(pMemory);
-    if (!reply) next<void(void*)>("zorFree")(pMemory);
-}
-
-namespace {
+using zors::test::allocator;
 
 struct Member {
     const char* type;
@@ -62,31 +35,17 @@ const Member members[] = {
 
 class Memory : public testing::TestWithParam<Member> {
 protected:
-    void SetUp() override
-    {
-        sizesAsked.clear();
-        pointersFreed.clear();
-        reply.reset();
-    }
+    void SetUp() override { allocator = {}; }
 };
 
-TEST_P(Memory, IsAlignedAndUsable)
-{
-    for (const int len : {1, 3, 63, 64, 65, 1000}) {
-        void* p = GetParam().allocate(len);
-        ASSERT_NE(p, nullptr);
-        EXPECT_EQ(reinterpret_cast<std::uintptr_t>(p) % 64, 0u);
-        std::memset(p, 0x5a, static_cast<std::size_t>(len * GetParam().bytes));
-        zorsFree(p);
-    }
-}
-
-TEST_P(Memory, AsksForCountTimesSizeModulo2To32)
+TEST_P(Memory, AsksForCountTimesSizeModulo2To32AndHandsTheResultOn)
 {
     const int bytes = GetParam().bytes;
-    reply = nullptr;
-    GetParam().allocate(1);
-    GetParam().allocate(1001);
+    int anything = 0;
+    allocator.reply = &anything;
+    EXPECT_EQ(GetParam().allocate(1), &anything);
+    allocator.reply = nullptr;
+    EXPECT_EQ(GetParam().allocate(1001), nullptr);
     std::vector<int> expected{bytes, 1001 * bytes};
     if (bytes > 2) { // 2^32 bytes of smaller elements are more than a count can tell
         const int wraps = static_cast<int>((INT64_C(1) << 32) / bytes);
@@ -94,22 +53,13 @@ TEST_P(Memory, AsksForCountTimesSizeModulo2To32)
         GetParam().allocate(wraps + 5);
         expected.insert(expected.end(), {0, 5 * bytes});
     }
-    EXPECT_EQ(sizesAsked, expected);
-}
-
-TEST_P(Memory, HandsTheResultOnUnchanged)
-{
-    int anything = 0;
-    for (void* answer : {static_cast<void*>(&anything), static_cast<void*>(nullptr)}) {
-        reply = answer;
-        EXPECT_EQ(GetParam().allocate(7), answer);
-    }
+    EXPECT_EQ(allocator.sizesAsked, expected);
 }
 
 TEST_P(Memory, AsksForNothingBelowOneElement)
 {
     for (const int len : {0, -1, INT32_MIN}) EXPECT_EQ(GetParam().allocate(len), nullptr);
-    EXPECT_TRUE(sizesAsked.empty());
+    EXPECT_TRUE(allocator.sizesAsked.empty());
 }
 
 INSTANTIATE_TEST_SUITE_P(Members, Memory, testing::ValuesIn(members),
@@ -118,10 +68,9 @@ INSTANTIATE_TEST_SUITE_P(Members, Memory, testing::ValuesIn(members),
 TEST_F(Memory, FreeHandsItsPointerOn)
 {
     int anything = 0;
-    reply = nullptr;
     zorsFree(&anything);
     zorsFree(nullptr);
-    EXPECT_EQ(pointersFreed, (std::vector<void*>{&anything, nullptr}));
+    EXPECT_EQ(allocator.pointersFreed, (std::vector<void*>{&anything, nullptr}));
 }
 
 } // namespace

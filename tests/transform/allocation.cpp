@@ -1,40 +1,9 @@
-// What happens when memory runs out. The allocator of this program takes the core library's place: the loader finds
-// it first.
+// What happens when memory runs out.
+#include "support/allocator.h"
 #include "transform/samples.h"
 
-#include <cstdlib>
 #include <cstring>
 #include <gtest/gtest.h>
-#include <set>
-#include <zorcore.h>
-
-namespace {
-
-// Counts allocations, fails the one it is told to, and knows what was not released.
-struct Allocator {
-    int untilFailure = -1;
-    int calls = 0;
-    std::set<void*> live;
-    bool strayRelease = false;
-} allocator;
-
-} // namespace
-
-void* zorMalloc(int length)
-{
-    ++allocator.calls;
-    if (allocator.untilFailure == 0) return nullptr;
-    if (allocator.untilFailure > 0) --allocator.untilFailure;
-    void* p = std::aligned_alloc(64, (static_cast<std::size_t>(length) + 63) / 64 * 64);
-    allocator.live.insert(p);
-    return p;
-}
-
-void zorFree(void* p)
-{
-    if (p && allocator.live.erase(p) == 0) allocator.strayRelease = true;
-    std::free(p);
-}
 
 namespace zors::test {
 namespace {
@@ -46,11 +15,11 @@ TEST(Allocation, InitAllocLeavesNothingBehind)
     for (const Kind& kind : kinds())
         for (const int order : orders) {
             SCOPED_TRACE(kind.name + ", order " + std::to_string(order));
-            const int needed = sizesOf(kind, order).init > 0 ? 2 : 1;
+            const std::size_t needed = sizesOf(kind, order).init > 0 ? 2 : 1;
             char mark;
-            for (int k = 0; k < needed; ++k) {
+            for (std::size_t k = 0; k < needed; ++k) {
                 allocator = {};
-                allocator.untilFailure = k;
+                allocator.untilFailure = static_cast<int>(k);
                 void* spec = &mark;
                 EXPECT_EQ(kind.initAlloc(&spec, order, ZOR_FFT_SCALE_NONE, ZOR_ALG_ANY), zorStsNoMemory);
                 EXPECT_EQ(spec, &mark) << "a record was handed out";
@@ -59,7 +28,7 @@ TEST(Allocation, InitAllocLeavesNothingBehind)
             allocator = {};
             void* spec = nullptr;
             ASSERT_EQ(kind.initAlloc(&spec, order, ZOR_FFT_SCALE_NONE, ZOR_ALG_ANY), zorStsOk);
-            EXPECT_EQ(allocator.calls, needed);
+            EXPECT_EQ(allocator.sizesAsked.size(), needed);
             EXPECT_EQ(allocator.live.size(), 1U) << "the scratch memory is still there";
             EXPECT_EQ(kind.free(spec), zorStsOk);
             EXPECT_TRUE(allocator.live.empty());
@@ -76,17 +45,17 @@ TEST(Allocation, TransformsAllocateOnlyForANullBuffer)
             allocator = {};
             const Spec spec(*t.kind, order);
             const Sizes sizes = sizesOf(*t.kind, order);
-            Memory in(t.in.bytes(order)), out(t.out.bytes(order)), work(static_cast<std::size_t>(sizes.work));
-            writeNumbers(randomNumbers(t.in, order, random), t.in.number, in.get());
+            const Memory in = randomInput(t, order, random);
+            Memory out(t.out.bytes(order)), work(static_cast<std::size_t>(sizes.work));
             std::memset(out.get(), 0x77, t.out.bytes(order));
             const std::size_t before = allocator.live.size();
 
-            allocator.calls = 0;
+            allocator.sizesAsked.clear();
             ASSERT_EQ(t.run(in.get(), out.get(), spec.get(), order, 0, static_cast<Zor8u*>(work.get())),
                       zorStsOk);
-            EXPECT_EQ(allocator.calls, 0);
+            EXPECT_TRUE(allocator.sizesAsked.empty());
             EXPECT_EQ(t.run(in.get(), out.get(), spec.get(), order, 0, nullptr), zorStsOk);
-            EXPECT_EQ(allocator.calls, sizes.work > 0 ? 1 : 0);
+            EXPECT_EQ(allocator.sizesAsked.size(), sizes.work > 0 ? 1U : 0U);
             EXPECT_EQ(allocator.live.size(), before);
             if (sizes.work == 0) continue;
 
