@@ -1,13 +1,84 @@
 // Every window against its formula in extended precision: floats within the stated bounds, integers exactly.
-#include "generate/window_oracle.h"
 #include "support/oracle.h"
 
 #include <zors.h>
 
+#include <algorithm>
+#include <cmath>
 #include <functional>
+#include <numbers>
 
 namespace zors::test {
 namespace {
+
+using Wide = long double;
+
+constexpr Wide pi = std::numbers::pi_v<Wide>;
+
+// The weight of the element n places from the nearer end; len above 1.
+Wide cosine(int n, int len, int multiple = 1)
+{
+    return std::cos(2 * pi * multiple * n / (len - 1));
+}
+
+Wide bartlett(int n, int len)
+{
+    return Wide(2) * n / (len - 1);
+}
+
+Wide hamming(int n, int len)
+{
+    return 0.54L - 0.46L * cosine(n, len);
+}
+
+Wide hann(int n, int len)
+{
+    return 0.5L - 0.5L * cosine(n, len);
+}
+
+Wide blackman(int n, int len, Wide alpha)
+{
+    return (alpha + 1) / 2 - 0.5L * cosine(n, len) - alpha / 2 * cosine(n, len, 2);
+}
+
+Wide optimalAlpha(int len)
+{
+    return -std::pow(0.5L / std::cos(pi / (len - 1)), 2);
+}
+
+Wide power(Wide x, int n)
+{
+    return n == 0 ? 1 : x * power(x, n - 1);
+}
+
+// Abramowitz and Stegun 9.8.1 and 9.8.2, term by term.
+Wide besselI0(Wide x)
+{
+    constexpr Wide below[] = {1, 3.5156229L, 3.0899424L, 1.2067492L, 0.2659732L, 0.0360768L, 0.0045813L};
+    constexpr Wide above[] = {0.39894228L,  0.01328592L, 0.00225319L,  -0.00157565L, 0.00916281L,
+                              -0.02057706L, 0.02635537L, -0.01647633L, 0.00392377L};
+    Wide sum = 0;
+    if (x < 3.75L) {
+        for (int k = 0; k < 7; ++k) sum += below[k] * power(x / 3.75L, 2 * k);
+        return sum;
+    }
+    for (int k = 0; k < 9; ++k) sum += above[k] * power(3.75L / x, k);
+    return std::exp(x) / std::sqrt(x) * sum;
+}
+
+Wide kaiser(int n, int len, Wide alpha)
+{
+    const Wide a = std::abs(alpha);
+    return besselI0(a * std::sqrt(Wide(n) * (len - 1 - n))) / besselI0(a * (len - 1) / 2);
+}
+
+// A shape over the whole window: mirrored, and 1 at the centre.
+template <class Shape>
+Wide weightAt(Shape shape, int n, int len)
+{
+    if (2 * n == len - 1) return 1;
+    return shape(std::min(n, len - 1 - n), len);
+}
 
 Zor16s saturated(Wide v)
 {
@@ -71,24 +142,17 @@ bool isNear(T got, T source, Wide weight, const Window& window, bool end)
     return isNear(got.re, source.re, weight, window, end) && isNear(got.im, source.im, weight, window, end);
 }
 
-template <class T>
-std::vector<T> elements(int len)
-{
-    Random random(static_cast<unsigned>(len));
-    std::vector<T> v(static_cast<std::size_t>(len));
-    for (T& e : v) e = element<T>(random);
-    return v;
-}
-
 // Calls function(pSrc, pDst, len) at all lengths from the shortest to 257 and some longer ones, also in place.
 template <class T, class Function>
 void expectWeights(const Window& window, Function function)
 {
+    Random random;
     std::vector<int> lengths{511, 512, 513, 1000, 4095, 9000};
     for (int len = window.shortest; len <= 257; ++len) lengths.push_back(len);
     for (const int len : lengths) {
-        const auto source = elements<T>(len);
-        auto got = source, inPlace = source;
+        std::vector<T> source(static_cast<std::size_t>(len)), got = source;
+        for (T& e : source) e = element<T>(random);
+        auto inPlace = source;
         ASSERT_EQ(function(source.data(), got.data(), len), zorStsOk);
         ASSERT_EQ(function(inPlace.data(), inPlace.data(), len), zorStsOk);
         ASSERT_TRUE(std::equal(got.begin(), got.end(), inPlace.begin(), same<T>)) << len;
@@ -104,19 +168,16 @@ void expectWeights(const Window& window, Function function)
     }
 }
 
-// One function of no parameter or of the window's.
-template <class T, class... Parameter>
-void expectWindow(const Window& window, ZorStatus (*function)(const T*, T*, int, Parameter...))
-{
-    expectWeights<T>(window, [&](const T* pSrc, T* pDst, int len) {
-        return function(pSrc, pDst, len, static_cast<Parameter>(window.parameter(len))...);
-    });
-}
-
+// Functions of no parameter or of the window's.
 template <class... Function>
 void expectWindows(const Window& window, Function... functions)
 {
-    (expectWindow(window, functions), ...);
+    const auto expect = [&]<class T, class... P>(ZorStatus (*function)(const T*, T*, int, P...)) {
+        expectWeights<T>(window, [&](const T* pSrc, T* pDst, int len) {
+            return function(pSrc, pDst, len, static_cast<P>(window.parameter(len))...);
+        });
+    };
+    (expect(functions), ...);
 }
 
 #define ALL_TYPES(name)                                                                                      \
