@@ -63,12 +63,13 @@ TEST(Packed, Expansion)
     expectFlip(zorsConjFlip_16sc);
 }
 
-// What is stored of the product of two packed spectra, the second one as it is or conjugate: computed in 64 bits or
-// in the type itself, without fusing.
-template <class Number, class T, class Store>
+// The product of two packed spectra, the first one as it is or conjugate: integers in 64 bits, others in the type
+// itself, without fusing.
+template <class T, class Store>
 void multiply(const T* a, const T* b, Places at, bool conjugate, Store store)
 {
-    const auto product = [=](std::size_t i, std::size_t j) { return Number(a[i]) * Number(b[j]); };
+    using Exact = std::conditional_t<std::is_integral_v<T>, Zor64s, T>;
+    const auto product = [=](std::size_t i, std::size_t j) { return Exact{a[i]} * Exact{b[j]}; };
     for (std::size_t k = 0; k < at.points(); ++k) {
         const std::size_t re = at.real(k), im = re + 1;
         if (at.isReal(k)) {
@@ -83,32 +84,31 @@ void multiply(const T* a, const T* b, Places at, bool conjugate, Store store)
     }
 }
 
-// Random numbers of ordinary size in place of random bits.
-template <class T>
-RandomVector<T> numbers(int n, int offset, Random& random)
+template <class T, class Exact>
+T scaled(Exact x, int scaleFactor)
 {
-    RandomVector<T> v(n, offset, random);
-    for (int i = 0; i < n; ++i)
-        v.data()[i] =
-            static_cast<T>(std::ldexp(static_cast<double>(static_cast<std::int64_t>(random())), -60));
-    return v;
+    if constexpr (std::is_floating_point_v<T>) return x;
+    const auto whole = std::nearbyint(std::ldexp(static_cast<long double>(x), -scaleFactor));
+    return static_cast<T>(std::clamp<long double>(whole, -32768, 32767));
 }
 
-template <class T, class Function>
+// Calls mul(pSrc1, pSrc2, pDst, len) or, of integers, mul(pSrc1, pSrc2, pDst, len, scaleFactor).
+template <class T, class... Factor, class Function>
 void expectProducts(Function mul, Format format, bool conjugate = false)
 {
     Random random;
     for (int n = 1; n <= 257; ++n)
-        for (int offset = 0; offset < 4; ++offset) {
-            const auto a = numbers<T>(n, offset, random), b = numbers<T>(n, 1, random);
-            RandomVector<T> want(n, 2, random), got = want;
-            auto first = a;
-            multiply<T>(a.data(), b.data(), {format, static_cast<std::size_t>(n)}, conjugate,
-                        [&](std::size_t i, T value) { want.data()[i] = value; });
-            ASSERT_EQ(mul(a.data(), b.data(), got.data(), n), zorStsOk);
-            ASSERT_TRUE(got == want) << "length " << n;
-            ASSERT_EQ(mul(first.data(), b.data(), first.data(), n), zorStsOk);
-            ASSERT_TRUE(std::equal(first.data(), first.data() + n, want.data())) << "length " << n;
+        for (const int factor : {0, 1, 14, 15, 16, 17, 30, 31, 32, 33, 34, 1000, -1, -20, -1000}) {
+            RandomVector<T> a(n, n % 4, random), b(n, 1, random), want(n, 2, random), got = want;
+            std::generate_n(a.data(), n, [&] { return element<T>(random); });
+            std::generate_n(b.data(), n, [&] { return element<T>(random); });
+            multiply(std::as_const(a).data(), std::as_const(b).data(), {format, static_cast<std::size_t>(n)},
+                     conjugate, [&](std::size_t i, auto x) { want.data()[i] = scaled<T>(x, factor); });
+            ASSERT_EQ(mul(a.data(), b.data(), got.data(), n, Factor(factor)...), zorStsOk);
+            ASSERT_TRUE(got == want) << "length " << n << ", scale factor " << factor;
+            ASSERT_EQ(mul(a.data(), b.data(), a.data(), n, Factor(factor)...), zorStsOk);
+            ASSERT_TRUE(std::equal(a.data(), a.data() + n, want.data()))
+                << "length " << n << ", scale factor " << factor << ", destination and first source equal";
             compared(2 * n);
         }
 }
@@ -119,46 +119,17 @@ TEST(Packed, Products)
     expectProducts<Zor32f>(zorsMulPerm_32f, Format::perm);
     expectProducts<Zor64f>(zorsMulPack_64f, Format::pack);
     expectProducts<Zor64f>(zorsMulPerm_64f, Format::perm);
-    const auto conjugate = [](auto mulInPlace) {
+    expectProducts<Zor16s, int>(zorsMulPack_16s_Sfs, Format::pack);
+    expectProducts<Zor16s, int>(zorsMulPerm_16s_Sfs, Format::perm);
+    const auto outOfPlace = [](auto mulInPlace) {
         return [=](const auto* a, const auto* b, auto* p, int n) {
             const std::vector first(a, a + n);
             std::copy_n(b, n, p);
             return mulInPlace(first.data(), p, n);
         };
     };
-    expectProducts<Zor32f>(conjugate(zorsMulPackConj_32f_I), Format::pack, true);
-    expectProducts<Zor64f>(conjugate(zorsMulPackConj_64f_I), Format::pack, true);
-}
-
-void expectScaledProducts(ZorStatus (*mul)(const Zor16s*, const Zor16s*, Zor16s*, int, int), Format format)
-{
-    Random random;
-    const auto extreme = [&](RandomVector<Zor16s>& v, int n) {
-        for (int i = 0; i < n; ++i)
-            if (random() % 3 == 0) v.data()[i] = random() % 2 ? -32768 : 32767;
-    };
-    for (int n = 1; n <= 257; ++n)
-        for (const int scaleFactor : {0, 1, 14, 15, 16, 17, 30, 31, 32, 33, 34, 1000, -1, -20, -1000}) {
-            RandomVector<Zor16s> a(n, n % 3, random), b(n, 1, random), want(n, 2, random), got = want;
-            extreme(a, n);
-            extreme(b, n);
-            multiply<Zor64s>(a.data(), b.data(), {format, static_cast<std::size_t>(n)}, false,
-                             [&](std::size_t i, Zor64s exact) {
-                                 const auto scaled =
-                                     std::ldexp(static_cast<long double>(exact), -scaleFactor);
-                                 want.data()[i] = static_cast<Zor16s>(
-                                     std::clamp<long double>(std::nearbyint(scaled), -32768, 32767));
-                             });
-            ASSERT_EQ(mul(a.data(), b.data(), got.data(), n, scaleFactor), zorStsOk);
-            ASSERT_TRUE(got == want) << "length " << n << ", scale factor " << scaleFactor;
-            compared(n);
-        }
-}
-
-TEST(Packed, ScaledProducts)
-{
-    expectScaledProducts(zorsMulPack_16s_Sfs, Format::pack);
-    expectScaledProducts(zorsMulPerm_16s_Sfs, Format::perm);
+    expectProducts<Zor32f>(outOfPlace(zorsMulPackConj_32f_I), Format::pack, true);
+    expectProducts<Zor64f>(outOfPlace(zorsMulPackConj_64f_I), Format::pack, true);
 }
 
 } // namespace
