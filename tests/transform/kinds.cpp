@@ -3,24 +3,37 @@
 #include <stdexcept>
 
 namespace zors::test {
+namespace {
+
+// A pointer to whatever a function takes.
+struct Untyped {
+    const void* p;
+
+    template <class T>
+    operator T*() const
+    {
+        return static_cast<T*>(const_cast<void*>(p));
+    }
+};
+
+// The function, with an untyped record or place for its address.
+template <auto function, class P, class... A>
+ZorStatus call(P record, A... arguments)
+{
+    return function(Untyped{record}, arguments...);
+}
+
+template <auto getSize, auto init, auto initAlloc, auto free, auto getBufSize>
+Kind makeKind(const char* name, Zor32u tag, int mostOrder)
+{
+    return {name, tag, mostOrder, getSize, call<init>, call<initAlloc>, call<free>, call<getBufSize>};
+}
+
+} // namespace
 
 #define ZORS_KIND(kind, tag, mostOrder)                                                                      \
-    Kind                                                                                                     \
-    {                                                                                                        \
-#kind, tag, mostOrder, zorsFFTGetSize_##kind,                                                        \
-            [](void** ppSpec, int order, int flag, ZorHintAlgorithm hint, Zor8u* pSpec, Zor8u* pInit) {      \
-                return zorsFFTInit_##kind(reinterpret_cast<ZorsFFTSpec_##kind**>(ppSpec), order, flag, hint, \
-                                          pSpec, pInit);                                                     \
-            },                                                                                               \
-            [](void** ppSpec, int order, int flag, ZorHintAlgorithm hint) {                                  \
-                return zorsFFTInitAlloc_##kind(reinterpret_cast<ZorsFFTSpec_##kind**>(ppSpec), order, flag,  \
-                                               hint);                                                        \
-            },                                                                                               \
-            [](void* pSpec) { return zorsFFTFree_##kind(static_cast<ZorsFFTSpec_##kind*>(pSpec)); },         \
-            [](const void* pSpec, int* pSize) {                                                              \
-                return zorsFFTGetBufSize_##kind(static_cast<const ZorsFFTSpec_##kind*>(pSpec), pSize);       \
-            }       \
-    }
+    makeKind<zorsFFTGetSize_##kind, zorsFFTInit_##kind, zorsFFTInitAlloc_##kind, zorsFFTFree_##kind,         \
+             zorsFFTGetBufSize_##kind>(#kind, tag, mostOrder)
 
 const std::vector<Kind>& kinds()
 {

@@ -16,8 +16,8 @@ TEST(Threads, ShareARecord)
         for (const int order : {4, 8, 12, 17}) {
             const Spec spec(*t.kind, order, ZOR_FFT_SCALE_SQRT);
             const Sizes sizes = sizesOf(*t.kind, order);
-            Memory in(t.in.bytes(order)), expected(t.out.bytes(order));
-            writeNumbers(randomNumbers(t.in, order, random), t.in.number, in.get());
+            const Memory in = randomInput(t, order, random);
+            Memory expected(t.out.bytes(order));
             ASSERT_EQ(t.run(in.get(), expected.get(), spec.get(), order, 0, nullptr), zorStsOk);
             std::vector<Memory> out(threads, Memory(t.out.bytes(order)));
             std::vector<std::thread> running;

@@ -67,27 +67,17 @@ ZorStatus runInPlace(void* data, const void* spec, int order, int scaleFactor, Z
     return run<function>(nullptr, data, spec, order, scaleFactor, buffer);
 }
 
+template <auto function, auto inPlace>
+Transform makeTransform(const char* name, const char* record, bool inverse, Side in, Side out)
+{
+    return {name, &kind(record), inverse, in, out, run<function>, runInPlace<inPlace>};
+}
+
 } // namespace
 
 std::size_t bytesOf(Number number)
 {
     return withElement(number, [](auto x) { return sizeof x; });
-}
-
-bool isFloating(Number number)
-{
-    return number == Number::float32 || number == Number::float64;
-}
-
-std::size_t Places::numbers() const
-{
-    if (format == Format::pairs || format == Format::split) return 2 * n;
-    return format == Format::ccs ? 2 * (n / 2 + 1) : n;
-}
-
-std::size_t Places::points() const
-{
-    return isSpectrum() ? n / 2 + 1 : n;
 }
 
 std::size_t Places::real(std::size_t k) const
@@ -153,13 +143,9 @@ std::vector<Wide> readNumbers(const void* memory, Number number, std::size_t cou
 }
 
 #define ZORS_ONE(name, record, inverse, from, to, type, number, suffix, inPlace)                             \
-    Transform                                                                                                \
-    {                                                                                                        \
-#name "_" #type, &kind(#record "_" #type), inverse,                                                  \
-            {Format::from, Number::number },                                                                 \
-             {Format::to, Number::number }, run < zorsFFT##name##_##type##suffix>,                           \
-              runInPlace < zorsFFT##name##_##type##inPlace>                                                  \
-    }
+    makeTransform<zorsFFT##name##_##type##suffix, zorsFFT##name##_##type##inPlace>(                          \
+        #name "_" #type, #record "_" #type, inverse, {Format::from, Number::number},                         \
+        {Format::to, Number::number})
 
 #define ZORS_COMPLEX(format, ...)                                                                            \
     ZORS_ONE(Fwd_CToC, C, false, format, format, __VA_ARGS__),                                               \
@@ -175,6 +161,8 @@ std::vector<Wide> readNumbers(const void* memory, Number number, std::size_t cou
 
 const std::vector<Transform>& transforms()
 {
+    const Kind& mixed = kind("R_16s32s");
+    constexpr Side words{Format::real, Number::int16}, ccs{Format::ccs, Number::int32};
     static const std::vector<Transform> all = {
         ZORS_COMPLEX(pairs, 32fc, float32, , _I),
         ZORS_COMPLEX(pairs, 64fc, float64, , _I),
@@ -188,20 +176,8 @@ const std::vector<Transform>& transforms()
         ZORS_COMPLEX(split, 32s, int32, _Sfs, _ISfs),
         ZORS_REAL(16s, int16, _Sfs, _ISfs),
         ZORS_REAL(32s, int32, _Sfs, _ISfs),
-        Transform{"Fwd_RToCCS_16s32s",
-                  &kind("R_16s32s"),
-                  false,
-                  {Format::real, Number::int16},
-                  {Format::ccs, Number::int32},
-                  run<zorsFFTFwd_RToCCS_16s32s_Sfs>,
-                  nullptr},
-        Transform{"Inv_CCSToR_32s16s",
-                  &kind("R_16s32s"),
-                  true,
-                  {Format::ccs, Number::int32},
-                  {Format::real, Number::int16},
-                  run<zorsFFTInv_CCSToR_32s16s_Sfs>,
-                  nullptr},
+        Transform{"Fwd_RToCCS_16s32s", &mixed, false, words, ccs, run<zorsFFTFwd_RToCCS_16s32s_Sfs>, nullptr},
+        Transform{"Inv_CCSToR_32s16s", &mixed, true, ccs, words, run<zorsFFTInv_CCSToR_32s16s_Sfs>, nullptr},
     };
     return all;
 }

@@ -12,24 +12,26 @@ enum class Format { pairs, split, real, ccs, pack, perm };
 enum class Number { int16, int32, float32, float64 };
 
 std::size_t bytesOf(Number number);
-bool isFloating(Number number);
+inline bool isFloating(Number number)
+{
+    return number >= Number::float32;
+}
 
 // Where N points stand among the numbers of a format; of a spectrum, the first half of them.
 struct Places {
     Format format;
     std::size_t n;
 
+    bool isComplex() const { return format == Format::pairs || format == Format::split; }
+    bool isPacked() const { return format > Format::ccs; }
     bool isSpectrum() const { return format >= Format::ccs; }
-    std::size_t numbers() const;
-    std::size_t points() const;
+    std::size_t numbers() const { return isComplex() ? 2 * n : format == Format::ccs ? 2 * points() : n; }
+    std::size_t points() const { return isSpectrum() ? n / 2 + 1 : n; }
     std::size_t real(std::size_t k) const;
     std::size_t imaginary(std::size_t k) const;
-    // CCS stores the zeros of the first and the last point, too.
-    bool hasImaginary(std::size_t k) const
-    {
-        return isSpectrum() ? format == Format::ccs || !isReal(k) : format != Format::real;
-    }
+    // The first and the last point of a spectrum; CCS stores their zeros, too.
     bool isReal(std::size_t k) const { return k == 0 || 2 * k == n; }
+    bool hasImaginary(std::size_t k) const { return format != Format::real && (!isPacked() || !isReal(k)); }
 };
 
 struct Side {
