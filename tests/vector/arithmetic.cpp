@@ -186,17 +186,15 @@ TEST(Arithmetic, MixedTypes)
 // All pairs of 8-bit elements at every factor that makes a difference.
 TEST(Arithmetic, AllPairsOf8Bits)
 {
-    const auto check = [](auto operation, auto function) {
+    const auto all = everyValue<Zor8u>();
+    const auto check = [&](auto operation, auto function) {
         for (int factor = -9; factor <= 18; ++factor)
-            for (int c = 0; c < 256; ++c) {
-                Zor8u a[256], b[256], got[256];
-                std::iota(a, a + 256, Zor8u{0});
-                std::fill(b, b + 256, static_cast<Zor8u>(c));
-                function(a, b, got, 256, factor);
-                compared(256);
-                for (int i = 0; i < 256; ++i)
-                    ASSERT_EQ(got[i], scaled<Zor8u>(operation(Exact{i}, Exact{c}), factor))
-                        << i << ", " << c << ", factor " << factor;
+            for (const Zor8u c : all) {
+                SCOPED_TRACE(testing::Message() << +c << ", factor " << factor);
+                const std::vector<Zor8u> other(all.size(), c);
+                expectValues<Zor8u>(
+                    all, [&](auto* a, auto* p, int len) { return function(a, other.data(), p, len, factor); },
+                    elementwise([&](Zor8u a) { return scaled<Zor8u>(operation(wide(a), wide(c)), factor); }));
             }
     };
     check(sum, zorsAdd_8u_Sfs);
@@ -207,41 +205,26 @@ TEST(Arithmetic, AllPairsOf8Bits)
 // The exact product, scaled, to nearest with ties to even: of ties and their neighbours, and of anything at all.
 TEST(Arithmetic, FloatProductsAsIntegers)
 {
-    const auto expected = [](Zor32f a, Zor32f b, int scaleFactor) {
-        const double exact = std::ldexp(double{a} * b, -std::clamp(scaleFactor, -700, 700));
-        if (std::isnan(exact)) return Zor16s{0};
-        return static_cast<Zor16s>(std::nearbyint(std::clamp(exact, -32768.0, 32767.0)));
-    };
-    Random random;
     for (const int scaleFactor : {0, 1, 15, -3, -15, 40, -40, 300, -300, INT_MAX, INT_MIN})
-        for (int len = 1; len <= 257; ++len) {
-            RandomVector<Zor32f> a(len, 1, random);
-            RandomVector<Zor16s> got(len, len % 7, random), want = got;
-            const Zor32f val = len % 3 == 0 ? 0x1.000002p3f : len % 2 ? 8 : FLT_MIN;
-            for (int i = 0; i < len; i += 2)
-                a.data()[i] = std::ldexp(static_cast<Zor32f>(static_cast<int>(random() % 8191) - 4095),
-                                         std::clamp(scaleFactor, -60, 60) - (len % 3 ? 4 : 1));
-            for (int i = 0; i < len; ++i) want.data()[i] = expected(a.data()[i], val, scaleFactor);
-            ASSERT_EQ(zorsMulC_32f16s_Sfs(a.data(), val, got.data(), len, scaleFactor), zorStsOk);
-            compared(len);
-            ASSERT_TRUE(got == want) << "byte " << got.firstDifference(want) << " of length " << len
-                                     << ", factor " << scaleFactor;
+        for (const Zor32f val : {8.0f, 0x1.000002p3f, FLT_MIN}) {
+            const auto function = [=](const Zor32f* p, Zor16s* pDst, int len) {
+                return zorsMulC_32f16s_Sfs(p, val, pDst, len, scaleFactor);
+            };
+            const auto product16 = [=](Zor32f v) {
+                const double exact = std::ldexp(double{v} * val, -std::clamp(scaleFactor, -700, 700));
+                if (std::isnan(exact)) return Zor16s{0};
+                return static_cast<Zor16s>(std::nearbyint(std::clamp(exact, -32768.0, 32767.0)));
+            };
+            std::vector<Zor32f> halves;
+            for (int twice = -4095; twice <= 4095; ++twice)
+                halves.push_back(
+                    std::ldexp(static_cast<Zor32f>(twice), std::clamp(scaleFactor, -60, 60) - 4));
+            std::vector<Zor16s> got(halves.size()), want = got;
+            std::transform(halves.begin(), halves.end(), want.begin(), product16);
+            ASSERT_EQ(function(halves.data(), got.data(), static_cast<int>(halves.size())), zorStsOk);
+            ASSERT_EQ(got, want) << val << ", factor " << scaleFactor;
+            expectSame<Zor32f, Zor16s>(function, elementwise(product16), {}, Lengths::small);
         }
-}
-
-TEST(Arithmetic, ConstantsOfTheDefinition)
-{
-    Zor16s got;
-    constexpr Zor16s cases[][4] = {{1, 2, 1, 2},          {1, 0, 1, 0},          {-3, 0, 1, -2},
-                                   {32767, 32767, 16, 1}, {32767, 32767, 17, 0}, {3, 4, -16, 32767},
-                                   {3, -4, -16, -32768},  {4, -4, -16, 0}};
-    for (const auto& [a, b, scaleFactor, want] : cases) {
-        EXPECT_EQ(zorsAdd_16s_Sfs(&a, &b, &got, 1, scaleFactor), zorStsOk);
-        EXPECT_EQ(got, want) << a << " + " << b << ", factor " << scaleFactor;
-    }
-    const Zor16s least = -32768;
-    EXPECT_EQ(zorsMul_16s_Sfs(&least, &least, &got, 1, 1), zorStsOk);
-    EXPECT_EQ(got, 32767);
 }
 
 } // namespace

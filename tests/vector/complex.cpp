@@ -55,9 +55,8 @@ void expectJoined(ZorStatus (*function)(const T*, const T*, C*, int))
 
 TEST(RealToCplx, JoinsPartsOfWhichOneMayBeMissing)
 {
-    expectJoined(zorsRealToCplx_16s);
-    expectJoined(zorsRealToCplx_32f);
-    expectJoined(zorsRealToCplx_64f);
+    const auto each = [](auto... function) { (expectJoined(function), ...); };
+    each(zorsRealToCplx_16s, zorsRealToCplx_32f, zorsRealToCplx_64f);
 }
 
 } // namespace

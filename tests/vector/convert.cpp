@@ -17,32 +17,25 @@ constexpr auto cast = []<class S, class D>(Conversion<S, D>) {
     return [](S v) { return static_cast<D>(v); };
 };
 
-template <class S, class D>
-void expectCast(Conversion<S, D> function)
+template <class... S, class... D>
+void expectCasts(Conversion<S, D>... function)
 {
     for (const unsigned control : controls)
-        expectSame<S, D>(under(control, function), elementwise(cast(function)), {},
-                         control == standardControl ? Lengths::smallAndLong : Lengths::small);
+        (expectSame<S, D>(under(control, function), elementwise(cast(function)), {},
+                          control == standardControl ? Lengths::smallAndLong : Lengths::small),
+         ...);
 }
 
 TEST(Widening, IntegersKeepTheirValues)
 {
-    expectCast(zorsConvert_8s16s);
-    expectCast(zorsConvert_16s32s);
-    expectCast(zorsConvert_8s32f);
-    expectCast(zorsConvert_8u32f);
-    expectCast(zorsConvert_16s32f);
-    expectCast(zorsConvert_16u32f);
-    expectCast(zorsConvert_32s64f);
+    expectCasts(zorsConvert_8s16s, zorsConvert_16s32s, zorsConvert_8s32f, zorsConvert_8u32f,
+                zorsConvert_16s32f, zorsConvert_16u32f, zorsConvert_32s64f);
 }
 
 // Random bits are denormal, infinite and not a number often enough.
 TEST(Rounding, ToTheNearestFloat)
 {
-    expectCast(zorsConvert_32s32f);
-    expectCast(zorsConvert_64s64f);
-    expectCast(zorsConvert_32f64f);
-    expectCast(zorsConvert_64f32f);
+    expectCasts(zorsConvert_32s32f, zorsConvert_64s64f, zorsConvert_32f64f, zorsConvert_64f32f);
 }
 
 // The cases that random bits do not meet: ties, the ends of the denormal and of the finite range.

@@ -32,12 +32,8 @@ std::int64_t rounded(double value, ZorRoundMode rndMode, int scaleFactor, Range 
 template <class S>
 std::vector<S> awkward(Range range)
 {
-    std::vector<S> all{INFINITY,
-                       NAN,
-                       std::numeric_limits<S>::max(),
-                       std::numeric_limits<S>::min(),
-                       std::numeric_limits<S>::denorm_min(),
-                       std::numeric_limits<S>::epsilon()};
+    using Limits = std::numeric_limits<S>;
+    std::vector<S> all{INFINITY, NAN, Limits::max(), Limits::min(), Limits::denorm_min(), Limits::epsilon()};
     for (const double around :
          {0.0, 2.0, static_cast<double>(range.most), static_cast<double>(range.least), 0x1p22, 0x1p23, 0x1p24,
           0x1p31, 0x1p32, 0x1p51, 0x1p52, 0x1p53, 0x1p63, 0x1p64})
@@ -91,23 +87,6 @@ TEST(FloatToInteger, RoundsAndSaturates)
     expectRounds(zorsConvert_32f32s_Sfs, rangeOf<Zor32s>);
     expectRounds(zorsConvert_64f32s_Sfs, rangeOf<Zor32s>);
     expectRounds(zorsConvert_64f64s_Sfs, rangeOf<Zor64s>);
-}
-
-TEST(FloatToInteger, ValuesOfTheDefinition)
-{
-    const auto convert = [](Zor32f value, ZorRoundMode mode, int scaleFactor) {
-        Zor16s result = 99;
-        EXPECT_EQ(zorsConvert_32f16s_Sfs(&value, &result, 1, mode, scaleFactor), zorStsOk);
-        return result;
-    };
-    for (const Zor32f sign : {1.0f, -1.0f}) {
-        EXPECT_EQ(convert(sign * 2.5f, zorRndZero, 0), sign * 2);
-        EXPECT_EQ(convert(sign * 2.5f, zorRndNear, 0), sign * 2);
-        EXPECT_EQ(convert(sign * 2.5f, zorRndFinancial, 0), sign * 3);
-        EXPECT_EQ(convert(sign * 1.5f, zorRndZero, 1), 0);
-        EXPECT_EQ(convert(sign * 1.5f, zorRndNear, 1), sign);
-    }
-    for (const ZorRoundMode mode : modes) EXPECT_EQ(convert(40000, mode, 0), 32767);
 }
 
 } // namespace

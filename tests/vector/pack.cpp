@@ -2,6 +2,8 @@
 
 #include <zors.h>
 
+#include <climits>
+
 namespace {
 
 using namespace zors::test;
@@ -41,8 +43,7 @@ TEST(PackBits, RefusesImpossibleCounts)
 {
     const Zor32u words[] = {1, 2, 3};
     Zor8u bytes[12] = {9};
-    for (const Zor32s bad :
-         {-1, 33, std::numeric_limits<Zor32s>::min(), std::numeric_limits<Zor32s>::max()}) {
+    for (const Zor32s bad : {-1, 33, INT_MIN, INT_MAX}) {
         const Zor32s bits[] = {8, 8, bad};
         EXPECT_EQ(zorsPackBits_32u8u(words, bits, bytes, 3), zorStsBadArgument);
         EXPECT_EQ(bytes[0], 9);

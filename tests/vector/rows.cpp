@@ -12,11 +12,6 @@ namespace {
 
 using namespace zors::test;
 
-template <class T>
-using Join = ZorStatus (*)(const Zor32f* const*, T*, int, int);
-template <class T>
-using Split = ZorStatus (*)(const T*, Zor32f* const*, int, int);
-
 std::int64_t joined(Zor32f v, Range range)
 {
     if (std::isnan(v)) return 0;
@@ -39,7 +34,8 @@ void spread(RandomVector<Zor32f>& row, int len, Range range, Random& random)
 
 // Joins rows, and splits frames over them.
 template <class T>
-void expectBoth(Join<T> join, Split<T> split, Range range)
+void expectBoth(ZorStatus (*join)(const Zor32f* const*, T*, int, int),
+                ZorStatus (*split)(const T*, Zor32f* const*, int, int), Range range)
 {
     Random random;
     const auto compare = [&](int channels, int len, unsigned control) {
