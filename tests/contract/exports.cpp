@@ -99,8 +99,7 @@ const Parameter* Export::find(const std::string& parameter) const
 
 bool Export::has(Role role) const
 {
-    return std::any_of(parameters.begin(), parameters.end(),
-                       [=](const Parameter& p) { return p.role == role; });
+    return std::ranges::any_of(parameters, [=](const Parameter& p) { return p.role == role; });
 }
 
 #undef ZORSAPI

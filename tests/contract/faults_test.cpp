@@ -23,9 +23,10 @@ struct Fault {
 
 bool mayBeNull(const Export& e, const Parameter& p)
 {
-    return std::any_of(std::begin(optionalPointers), std::end(optionalPointers), [&](const Optional& o) {
+    const auto is = [&](const Optional& o) {
         return e.name.starts_with(o.function) && p.name == o.parameter;
-    });
+    };
+    return std::ranges::any_of(optionalPointers, is);
 }
 
 int leastLength(const Export& e)
@@ -37,8 +38,7 @@ int leastLength(const Export& e)
 
 bool checksLengthFirst(const Export& e)
 {
-    return std::any_of(std::begin(lengthFirst), std::end(lengthFirst),
-                       [&](std::string_view name) { return e.name.starts_with(name); });
+    return std::ranges::any_of(lengthFirst, [&](auto name) { return e.name.starts_with(name); });
 }
 
 std::vector<Fault> faultsOf(const Export& e)

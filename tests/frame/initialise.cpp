@@ -71,16 +71,6 @@ TEST(Initialise, JumpIndexNeedsBothOfItsBits)
     for (const auto& [mask, index] : expected) EXPECT_EQ(Loaded(mask).jumpIndex(), index) << mask;
 }
 
-TEST(Initialise, WorksWithoutAnyFeature)
-{
-    const Loaded library(0);
-    const Zor32f source[] = {1, 2, 3};
-    Zor32f copy[3] = {};
-    EXPECT_EQ(library.symbol<decltype(zorsCopy_32f)>("zorsCopy_32f")(source, copy, 3), zorStsOk);
-    EXPECT_EQ(copy[2], 3);
-    EXPECT_EQ(library.symbol<decltype(zorsCopy_32f)>("zorsCopy_32f")(nullptr, copy, 3), zorStsNullPointer);
-}
-
 TEST(Initialise, AVariantNeedsEveryFeatureThatItIsCompiledFor)
 {
     const auto chosenFor = [](Zor64u mask) { return Loaded(mask).implementation(); };
