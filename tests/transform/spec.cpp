@@ -4,7 +4,6 @@
 
 #include <climits>
 #include <cmath>
-#include <cstddef>
 #include <cstring>
 #include <gtest/gtest.h>
 #include <numbers>

@@ -77,7 +77,8 @@ TEST(IntegerDeviation, AtTiesAndAtTheEndsOfTheType)
         for (int d = -1; d <= 1; ++d) {
             const auto most = static_cast<Zor16s>(k), last = static_cast<Zor16s>(k + d);
             const Zor16s v[] = {0, most, most, last};
-            for (const int s : {0, 1, 4}) underControl(roundings[k / 2 % 4], [&] { expectScaled(v, 4, s); });
+            for (const int s : {0, 1, 4, -31})
+                underControl(roundings[k / 2 % 4], [&] { expectScaled(v, 4, s); });
         }
     std::vector<Zor16s> ends(1 << 18, -32768);
     expectScaled(ends.data(), 1 << 18, 0);
