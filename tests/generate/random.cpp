@@ -123,12 +123,42 @@ std::vector<T> drawn(ZorStatus (*direct)(T*, int, T, T, Zor32u*), int len, T fir
 TEST(Random, KnownAnswers)
 {
     // Over [-2^31, 2^31] a uniform number is the word itself, but for the 14 digits of the factor.
+    const struct {
+        Zor32u seed, next;
+        std::vector<Zor64f> words;
+    } answers[] = {
+        {0,
+         1998354204u,
+         {-2143376656, -1588453546, -1238212167, -415855842, -631588969, 1034660151, 1394023789,
+          -1131461971}},
+        {12345,
+         713992268u,
+         {-852021644, 1853869290, 53130500, 1735112000, 1512398141, 1894285325, 1387043057, 1879143389}},
+        {0xffffffffu,
+         572021150u,
+         {-1667886260, -1588384478, -762721770, -891277170, -156167640, 83748426, -1950100850, 1737172271}},
+    };
+    for (const auto& answer : answers) {
+        Zor32u seed = answer.seed;
+        auto v = drawn(zorsRandUniform_Direct_64f, 8, -2147483648.0, 2147483648.0, seed);
+        EXPECT_EQ(seed, answer.next);
+        for (double& d : v) d = std::round(d);
+        EXPECT_EQ(v, answer.words);
+    }
+
     Zor32u seed = 12345;
-    auto words = drawn(zorsRandUniform_Direct_64f, 8, -2147483648.0, 2147483648.0, seed);
-    EXPECT_EQ(seed, 713992268u);
-    for (double& d : words) d = std::round(d);
-    EXPECT_EQ(words, (std::vector<Zor64f>{-852021644, 1853869290, 53130500, 1735112000, 1512398141,
-                                          1894285325, 1387043057, 1879143389}));
+    EXPECT_EQ(drawn<Zor16s>(zorsRandUniform_Direct_16s, 8, -1000, 2000, seed),
+              (std::vector<Zor16s>{-95, 1795, 537, 1712, 1556, 1823, 1469, 1813}));
+    seed = 12345;
+    EXPECT_EQ(drawn<Zor16s>(zorsRandGauss_Direct_16s, 8, 100, 3000, seed),
+              (std::vector<Zor16s>{1334, -467, 2866, 185, -4514, 1230, -181, -2108}));
+    seed = 12345;
+    const auto normal = drawn(zorsRandGauss_Direct_64f, 9, 0.5, 2.0, seed);
+    EXPECT_EQ(seed, 2750862402u);
+    const double expected[] = {1.3224486111003166, 0.12201001898294117, 2.344155736297717,
+                               0.5564695053387712, -2.5760276705491303, 1.2535712863081305,
+                               0.3125796218995138, -0.9716998689607343, 2.5890025023235377};
+    for (std::size_t i = 0; i < 9; ++i) EXPECT_DOUBLE_EQ(normal[i], expected[i]);
 }
 
 // Every call continues the sequence, whatever the lengths, and a record may lie at any multiple of 8.

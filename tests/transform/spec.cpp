@@ -86,6 +86,16 @@ TEST(Sizes, FollowTheFormulas)
     }
 }
 
+// A few by hand, in case the formulas above are wrong.
+TEST(Sizes, AreTheseNumbers)
+{
+    EXPECT_EQ(sizesOf(kind("C_32fc"), 10), (Sizes{9600, 0, 8256}));
+    EXPECT_EQ(sizesOf(kind("C_32fc"), 16), (Sizes{590208, 65664, 524352}));
+    EXPECT_EQ(sizesOf(kind("C_64fc"), 12), (Sizes{70016, 8320, 65600}));
+    EXPECT_EQ(sizesOf(kind("R_32f"), 5), (Sizes{384, 0, 0}));
+    EXPECT_EQ(sizesOf(kind("R_32f"), 11), (Sizes{17792, 2176, 8256}));
+}
+
 TEST(Sizes, StayWithin32BitsAtEveryOrder)
 {
     for (const Kind& k : kinds())

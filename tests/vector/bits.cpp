@@ -50,4 +50,17 @@ TEST(BitCopy, CopiesTheBitsAndKeepsTheOthers)
     expectCopied(zorsCopyBE_1u, false);
 }
 
+TEST(BitCopy, NumbersBitsFromTheNamedEnd)
+{
+    const Zor8u src[] = {0x80, 0xff};
+    Zor8u dst = 0;
+    zorsCopy_1u(src, 8, &dst, 0, 3); // begins in the first byte all the same
+    EXPECT_EQ(dst, 0x80);
+    zorsCopyBE_1u(src, 15, &dst, 0, 1);
+    EXPECT_EQ(dst, 0x81);
+    dst = 0xe0;
+    zorsCopy_1u(src + 1, 0, &dst, 3, 3);
+    EXPECT_EQ(dst, 0xfc);
+}
+
 } // namespace

@@ -69,6 +69,10 @@ TEST(Companding, Expands)
     expectDecodes(aLaw, zorsALawToLin_8u32f);
     expectDecodes(muLaw, zorsMuLawToLin_8u16s);
     expectDecodes(muLaw, zorsMuLawToLin_8u32f);
+    Zor8u code = 0;
+    Zor16s sample = 0;
+    EXPECT_TRUE(zorsALawToLin_8u16s(&code, &sample, 1) == zorStsOk && sample == -5504);
+    EXPECT_TRUE(zorsMuLawToLin_8u16s(&code, &sample, 1) == zorStsOk && sample == -32124);
 }
 
 template <class T>
@@ -119,6 +123,11 @@ TEST(Companding, ConvertsBetweenTheLaws)
 {
     expectConverts(aLaw, muLaw, zorsALawToMuLaw_8u);
     expectConverts(muLaw, aLaw, zorsMuLawToALaw_8u);
+    // Entries of the Recommendation's conversion tables.
+    Zor8u codes[] = {0xff, 0xfe, 0xfd, 0x80, 0x00, codeOf(muLaw, 48, true), codeOf(muLaw, 80, true)};
+    ASSERT_EQ(zorsMuLawToALaw_8u(codes, codes, 7), zorStsOk);
+    constexpr int numbers[] = {0, 0, 1, 127, 127, 45, 80};
+    for (int n = 0; n < 7; ++n) EXPECT_EQ(codes[n], codeOf(aLaw, numbers[n], n != 4)) << n;
 }
 
 } // namespace

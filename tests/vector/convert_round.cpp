@@ -89,4 +89,21 @@ TEST(FloatToInteger, RoundsAndSaturates)
     expectRounds(zorsConvert_64f64s_Sfs, rangeOf<Zor64s>);
 }
 
+TEST(FloatToInteger, ValuesOfTheDefinition)
+{
+    const auto convert = [](Zor32f value, ZorRoundMode mode, int scaleFactor) {
+        Zor16s result = 99;
+        EXPECT_EQ(zorsConvert_32f16s_Sfs(&value, &result, 1, mode, scaleFactor), zorStsOk);
+        return result;
+    };
+    for (const Zor32f sign : {1.0f, -1.0f}) {
+        EXPECT_EQ(convert(sign * 2.5f, zorRndZero, 0), sign * 2);
+        EXPECT_EQ(convert(sign * 2.5f, zorRndNear, 0), sign * 2);
+        EXPECT_EQ(convert(sign * 2.5f, zorRndFinancial, 0), sign * 3);
+        EXPECT_EQ(convert(sign * 1.5f, zorRndZero, 1), 0);
+        EXPECT_EQ(convert(sign * 1.5f, zorRndNear, 1), sign);
+    }
+    for (const ZorRoundMode mode : modes) EXPECT_EQ(convert(40000, mode, 0), 32767);
+}
+
 } // namespace

@@ -37,8 +37,14 @@ TEST(Jaehne, IsASineOfRisingFrequency)
          zorsVectorJaehne_32u, zorsVectorJaehne_32s, zorsVectorJaehne_32f, zorsVectorJaehne_64f);
 }
 
-TEST(Jaehne, OfOneElementIsZero)
+TEST(Jaehne, ValuesOfTheDefinition)
 {
+    Zor16s wave[4] = {9, 9, 9, 9};
+    EXPECT_EQ(zorsVectorJaehne_16s(wave, 4, 100), zorStsOk);
+    EXPECT_TRUE(wave[0] == 0 && wave[1] == 38 && wave[2] == 100 && wave[3] == -38);
+    Zor8u half[4] = {9, 9, 9, 9};
+    EXPECT_EQ(zorsVectorJaehne_8u(half, 4, 100), zorStsOk);
+    EXPECT_TRUE(half[0] == 0 && half[1] == 38 && half[2] == 100 && half[3] == 0);
     Zor32f alone = 9;
     EXPECT_EQ(zorsVectorJaehne_32f(&alone, 1, NAN), zorStsOk);
     EXPECT_EQ(alone, 0); // whatever the magnitude

@@ -139,9 +139,29 @@ TEST(FloatingSum, AddsInItsPattern)
     expectPattern<Zor64f>(zorsSum_64fc, zorsMean_64fc);
 }
 
-TEST(FloatingSum, OverflowsToInfinity)
+// The error bound that the documentation states, against 64-bit significands.
+TEST(FloatingSum, StaysWithinItsBound)
 {
-    const Zor32f huge[] = {3e38f, 3e38f};
+    const auto v = normal<Zor32f>(longest, 0.5, 1, 24);
+    eachLength([&](std::size_t place, int len) {
+        const Zor32f* p = v.data() + place;
+        long double exact = 0, magnitudes = 0;
+        for (int i = 0; i < len; ++i) exact += p[i], magnitudes += std::fabs(p[i]);
+        const Zor32f sum = reduced(zorsSum_32f, p, len, ZOR_ALG_ANY),
+                     fast = reduced(zorsSum_32f, p, len, ZOR_ALG_SPEED);
+        const long double precise = (len / 32 + 5) * 0x1p-53L * magnitudes,
+                          rounding = 0x1p-24L * std::fabs(exact);
+        ASSERT_LE(std::fabs(sum - exact), 1.001L * (precise + rounding)) << len;
+        ASSERT_LE(std::fabs(fast - exact), 1.001L * (22 * 0x1p-24L * magnitudes + rounding)) << len;
+    });
+}
+
+TEST(FloatingSum, PreciseWhereSingleIsNot)
+{
+    const Zor32f v[] = {1e8f, 1, -1e8f}, odd[] = {16777216, 1, 0}, huge[] = {3e38f, 3e38f};
+    EXPECT_EQ(reduced(zorsSum_32f, v, 3, ZOR_ALG_ANY), 1);
+    // The sum 2^24 + 1 is rounded before the division: the mean is not the exactly rounded one.
+    EXPECT_EQ(reduced(zorsMean_32f, odd, 3, ZOR_ALG_ANY), static_cast<Zor32f>(16777216 / 3.0));
     EXPECT_EQ(reduced(zorsSum_32f, huge, 2, ZOR_ALG_ANY), HUGE_VALF);
 }
 
