@@ -1,6 +1,8 @@
 #include "exports.h"
 
 #include <algorithm>
+#include <array>
+#include <iterator>
 #include <sstream>
 #include <type_traits>
 
@@ -64,27 +66,50 @@ std::vector<std::string> parameterNames(std::string list)
     return names;
 }
 
-template <class R, class... A>
-Export makeExport(const char* name, const char* list, R (*)(A...))
+// A declaration as the compiler has it, in constants: most of what there is to make of it is not a template.
+struct Declaration {
+    const char* name;
+    const char* list;
+    ZorStatus (*invoke)(void* function, const Value* arguments);
+    Parameter (*const* parameters)(const std::string& name);
+};
+
+template <class... A>
+constexpr std::array<Parameter (*)(const std::string&), sizeof...(A)> parametersOf = {parameter<A>...};
+
+template <class... A>
+ZorStatus invoke(void* function, const Value* arguments)
 {
-    Export e;
-    e.name = name;
-    if constexpr (!std::is_same_v<R, ZorStatus>) {
-        e.unreachable = "returns no status";
-    } else {
-        const auto names = parameterNames(list);
-        std::size_t i = 0;
-        (e.parameters.push_back(parameter<A>(names.at(i++))), ...);
-        e.invoke = [](void* function, const Value* arguments) {
-            return [&]<std::size_t... I>(std::index_sequence<I...>)
-            {
-                return reinterpret_cast<R (*)(A...)>(function)(arguments[I].get<A>()...);
-            }
-            (std::index_sequence_for<A...>{});
-        };
-        if (e.has(Role::unknown)) e.unreachable = "takes a record or rows of pointers";
-        if (!e.has(Role::length)) e.unreachable = "has no length";
+    return [&]<std::size_t... I>(std::index_sequence<I...>)
+    {
+        return reinterpret_cast<ZorStatus (*)(A...)>(function)(arguments[I].get<A>()...);
     }
+    (std::index_sequence_for<A...>{});
+}
+
+template <class... A>
+constexpr Declaration declaration(const char* name, const char* list, ZorStatus (*)(A...))
+{
+    return {name, list, invoke<A...>, parametersOf<A...>.data()};
+}
+
+template <class R, class... A>
+constexpr Declaration declaration(const char* name, const char* list, R (*)(A...))
+{
+    return {name, list, nullptr, nullptr};
+}
+
+Export exportOf(const Declaration& d)
+{
+    Export e{d.name, {}, d.invoke, {}};
+    if (!d.invoke) {
+        e.unreachable = "returns no status";
+        return e;
+    }
+    for (const std::string& name : parameterNames(d.list))
+        e.parameters.push_back(d.parameters[e.parameters.size()](name));
+    if (e.has(Role::unknown)) e.unreachable = "takes a record or rows of pointers";
+    if (!e.has(Role::length)) e.unreachable = "has no length";
     return e;
 }
 
@@ -103,13 +128,18 @@ bool Export::has(Role role) const
 }
 
 #undef ZORSAPI
-#define ZORSAPI(type, name, args) makeExport(#name, #args, &::name),
+#define ZORSAPI(type, name, args) declaration(#name, #args, &::name),
 
 const std::vector<Export>& exports()
 {
-    static const std::vector<Export> table = {
+    static constexpr Declaration declarations[] = {
 #include <zors.h>
     };
+    static const std::vector<Export> table = [] {
+        std::vector<Export> all;
+        std::ranges::transform(declarations, std::back_inserter(all), exportOf);
+        return all;
+    }();
     return table;
 }
 

@@ -26,6 +26,15 @@ inline constexpr std::ptrdiff_t longBytes = std::ptrdiff_t{16} << 20;
 
 enum class Lengths { small, smallAndLong };
 
+// Not a part of the templates below, which are many: the message alone takes long to compile.
+inline void expectResult(ZorStatus status, const RandomBytes& got, const RandomBytes& want, int len,
+                         const char* where)
+{
+    ASSERT_EQ(status, zorStsOk) << where;
+    ASSERT_TRUE(got == want) << "byte " << got.firstDifference(want) << " of the destination, length " << len
+                             << ", " << where;
+}
+
 // Calls function(pSrc, pDst, len) and oracle(pSrc, pDst, len) on the same random bits, at every length up to 257
 // and at long ones, and wants the same bits in and around pDst.
 template <class S, class D, class Function, class Oracle>
@@ -35,12 +44,10 @@ void expectSame(Function function, Oracle oracle, Each each = {}, Lengths length
     const auto compare = [&](int len, int srcOffset, int dstOffset) {
         const RandomVector<S> src(std::ptrdiff_t{len} * each.source, srcOffset, random);
         RandomVector<D> got(std::ptrdiff_t{len} * each.destination, dstOffset, random), want = got;
-        ASSERT_EQ(function(src.data(), got.data(), len), zorStsOk);
+        const ZorStatus status = function(src.data(), got.data(), len);
         oracle(src.data(), want.data(), len);
         compared(std::ptrdiff_t{len} * each.destination);
-        ASSERT_TRUE(got == want) << "byte " << got.firstDifference(want) << " of the destination, length "
-                                 << len << ", offsets " << srcOffset << " and " << dstOffset << ", "
-                                 << __PRETTY_FUNCTION__;
+        expectResult(status, got, want, len, __PRETTY_FUNCTION__);
     };
     constexpr int offsets[][2] = {{0, 0}, {1, 0}, {0, 1}, {1, 1}, {3, 5}, {7, 2}};
     for (int len = 1; len <= 257; ++len)
@@ -143,14 +150,13 @@ void expectEach(int len, Function function, Operation operation)
     sow(b.data(), len, random);
     sow(got.data(), len, random);
     RandomVector<D> want = got;
-    ASSERT_EQ(function(std::as_const(a).data(), std::as_const(b).data(), got.data(), len), zorStsOk);
+    const ZorStatus status = function(std::as_const(a).data(), std::as_const(b).data(), got.data(), len);
     for (int n = 0; n < len; ++n) {
         const D value = operation(a.data()[n], b.data()[n], want.data()[n]);
         want.data()[n] = same(got.data()[n], value) ? got.data()[n] : value;
     }
     compared(len);
-    ASSERT_TRUE(got == want) << "byte " << got.firstDifference(want) << ", length " << len << ", "
-                             << __PRETTY_FUNCTION__;
+    expectResult(status, got, want, len, __PRETTY_FUNCTION__);
 }
 
 } // namespace zors::test

@@ -44,13 +44,11 @@ T element(Random& random)
     }
 }
 
-// Elements that begin offset alignments of their type past a 64-byte boundary, between other random bytes.
-template <class T>
-class RandomVector {
+// Bytes that begin so many past a 64-byte boundary, between other random bytes.
+class RandomBytes {
 public:
-    RandomVector(std::ptrdiff_t len, std::ptrdiff_t offset, Random& random)
-        : offset_(offset * std::ptrdiff_t{alignof(T)}),
-          lines_(static_cast<std::size_t>(3 + (offset_ + len * std::ptrdiff_t{sizeof(T)}) / 64))
+    RandomBytes(std::ptrdiff_t count, std::ptrdiff_t offset, Random& random)
+        : offset_(offset), lines_(static_cast<std::size_t>(3 + (offset + count) / 64))
     {
         for (Line& line : lines_)
             for (std::size_t at = 0; at < sizeof line; at += 8) {
@@ -59,21 +57,19 @@ public:
             }
     }
 
-    T* data() { return reinterpret_cast<T*>(lines_[1].bytes + offset_); }
-    const T* data() const { return reinterpret_cast<const T*>(lines_[1].bytes + offset_); }
+    std::byte* first() { return lines_[1].bytes + offset_; }
+    const std::byte* first() const { return lines_[1].bytes + offset_; }
 
-    bool operator==(const RandomVector& other) const
+    bool operator==(const RandomBytes& other) const
     {
         return std::memcmp(lines_.data(), other.lines_.data(), lines_.size() * sizeof(Line)) == 0;
     }
 
-    // Where two vectors, or what surrounds them, first differ, in bytes from the first element.
-    std::ptrdiff_t firstDifference(const RandomVector& other) const
+    // Where two of them, or what surrounds them, first differ, in bytes from the first one.
+    std::ptrdiff_t firstDifference(const RandomBytes& other) const
     {
         std::ptrdiff_t at = -64 - offset_;
-        const auto* here = reinterpret_cast<const std::byte*>(data());
-        const auto* there = reinterpret_cast<const std::byte*>(other.data());
-        while (here[at] == there[at]) ++at;
+        while (first()[at] == other.first()[at]) ++at;
         return at;
     }
 
@@ -84,6 +80,19 @@ private:
 
     std::ptrdiff_t offset_;
     std::vector<Line> lines_;
+};
+
+// Elements that begin offset alignments of their type past a boundary.
+template <class T>
+class RandomVector : public RandomBytes {
+public:
+    RandomVector(std::ptrdiff_t len, std::ptrdiff_t offset, Random& random)
+        : RandomBytes(len * std::ptrdiff_t{sizeof(T)}, offset * std::ptrdiff_t{alignof(T)}, random)
+    {
+    }
+
+    T* data() { return reinterpret_cast<T*>(first()); }
+    const T* data() const { return reinterpret_cast<const T*>(first()); }
 };
 
 } // namespace zors::test
