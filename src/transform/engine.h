@@ -9,7 +9,7 @@
 namespace zors::ZORS_VARIANT {
 
 template <class T>
-inline constexpr int firstBlockedOrder = sizeof(T) == 4 ? 17 : 15;
+inline constexpr int firstBlockedOrder = sizeof(T) == 4 ? 17 : 16;
 template <class T>
 inline constexpr int firstHalvedOrder = sizeof(T) == 4 ? 27 : 26;
 
