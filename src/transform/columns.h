@@ -9,17 +9,24 @@
 
 namespace zors::ZORS_VARIANT {
 
-// Radix 16 would need all of 32 registers for its points alone; radix 8 is faster with 16 and with 32. Measured.
+// Radix 16 needs all of 32 registers for its points alone, so radix 8 is faster, with 16 and with 32. Measured. But
+// with 32 a first pass of 16, which has no factors, in the place of two of 4 saves a way through the data.
 inline constexpr int mostLevels = 3;
+
+constexpr bool beginsWith16(int m)
+{
+    return ZORS_VECTOR_BYTES == 64 && m > 2 * mostLevels && m % mostLevels == 1;
+}
 
 // How the levels of an M-point column, M = 2^m, are divided among passes: evenly, the larger radices first.
 struct Passes {
     int m;
-    int count = (m + mostLevels - 1) / mostLevels;
+    int count = beginsWith16(m) ? m / mostLevels : (m + mostLevels - 1) / mostLevels;
 
     // At most two levels are missing: the last pass lacks one, then the one before it, or again the only one.
     constexpr int levels(int pass) const
     {
+        if (beginsWith16(m)) return mostLevels + (pass == 0 ? 1 : 0);
         const int missing = count * mostLevels - m, behind = count - 1 - pass;
         return mostLevels - (missing > behind ? 1 : 0) - (missing > count + behind ? 1 : 0);
     }
@@ -79,6 +86,10 @@ template <int W, bool First, class T, class In, class Out>
         break;
     case 2:
         return columnPass<4, W, First>(in, out, done, groups, factors);
+    case 4:
+        if constexpr (First && ZORS_VECTOR_BYTES == 64)
+            return columnPass<16, W, First>(in, out, done, groups, factors);
+        break;
     default:
         return columnPass<8, W, First>(in, out, done, groups, factors);
     }
@@ -109,7 +120,7 @@ struct Progress {
 template <int W, class T, class In, class Out>
 inline void firstTwoPasses(Progress<T>& at, In in, Out out)
 {
-    alignas(lineBytes) T memory[2 * W << 2 * mostLevels];
+    alignas(lineBytes) T memory[2 * W << (2 * mostLevels + 1)];
     const Rows<T, W> few{memory};
     const int first = at.levels(), second = at.passes.levels(1);
     const T* factors = at.factors;

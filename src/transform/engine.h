@@ -8,8 +8,7 @@
 
 namespace zors::ZORS_VARIANT {
 
-template <class T>
-inline constexpr int firstBlockedOrder = sizeof(T) == 4 ? 17 : 16;
+inline constexpr int firstBlockedOrder = 17;
 template <class T>
 inline constexpr int firstHalvedOrder = sizeof(T) == 4 ? 27 : 26;
 
@@ -19,7 +18,7 @@ constexpr std::int64_t factorBytes(int order)
 {
     constexpr std::int64_t pair = 2 * bytes<T>;
     if (order >= firstHalvedOrder<T>) return factorBytes<T>(firstHalvedOrder<T> - 1);
-    if (order >= firstBlockedOrder<T>) return pair * BlockedFactors{Division{order}}.count;
+    if (order >= firstBlockedOrder) return pair * BlockedFactors{Division{order}}.count;
     return pair * ((std::int64_t{1} << order) + 1);
 }
 
@@ -34,7 +33,7 @@ template <class T>
 inline void fillFactors(int order, const Wave<T>& wave, T* p)
 {
     if (order >= firstHalvedOrder<T>) order = firstHalvedOrder<T> - 1;
-    if (order >= firstBlockedOrder<T>)
+    if (order >= firstBlockedOrder)
         fillBlocked(order, wave, p);
     else
         fillSorted(order, wave, p);
@@ -46,7 +45,7 @@ constexpr std::int64_t workBytes(int order)
     constexpr std::int64_t pair = 2 * bytes<T>;
     const std::int64_t all = pair << order;
     if (order <= mostSmallOrder) return 0;
-    if (order < firstBlockedOrder<T>) return all;
+    if (order < firstBlockedOrder) return all;
     if (order < firstHalvedOrder<T>) return wholeLines(blockedWorkBytes<T>(order));
     const std::int64_t half = workBytes<T>(order - 1);
     return half > all / 2 ? half : all / 2;
@@ -97,7 +96,7 @@ template <class T, class Arrays>
         complexTransform(spec, tableOrder, order - 1, io.onDestination(half), factor, work);
         return shuffleHalves(io, 2 * half, work);
     }
-    if (order >= firstBlockedOrder<T>) return blockedTransform(order, io, factor, work, spec.factors);
+    if (order >= firstBlockedOrder) return blockedTransform(order, io, factor, work, spec.factors);
     if constexpr (lanes<T> == 16) {
         if (order < 8) return sortedTransform<8>(order, io, factor, work, spec.factors);
     }

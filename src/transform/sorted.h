@@ -118,7 +118,7 @@ inline void inPasses(int order, In in, Out out, Room room, T* work, const T* fac
     const int m = order - log2Of(W);
     const Rows<T, W> own{work};
     const T* ofColumns = factors + 2 * turnFactors<T>(std::ptrdiff_t{1} << m, W);
-    if (m <= 2 * mostLevels) {
+    if (Passes{m}.count <= 2) {
         columns<W>(m, in, own, room, own, ofColumns);
         turn<W>(own, out, (std::ptrdiff_t{1} << m) / W, 0, 1, factors);
     } else {

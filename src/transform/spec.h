@@ -52,7 +52,7 @@ inline void layOut(Layout& layout, int order, typename Kind::Record& r)
     layout.header(floatHeader);
     const int inner = complexOrder<Kind>(order);
     if (inner > mostSmallOrder) {
-        if (inner < firstBlockedOrder<T>)
+        if (inner < firstBlockedOrder)
             layout.take(r.bitReversal, bytes<Zor32s> * ((std::int64_t{1} << inner) / 4 + 1));
         layout.take(r.factors, factorBytes<T>(inner));
         if (inner >= firstHalvedOrder<T>) layout.take(r.halfFactors, halfFactorBytes<T>(inner));

@@ -62,8 +62,8 @@ TEST(Sizes, FollowTheFormulas)
         const Formula& formula;
         int mostOrder;
     } floats[] = {{"C_32fc", &Formula::complex, single, 16}, {"C_32f", &Formula::complex, single, 16},
-                  {"R_32f", &Formula::real, single, 17},     {"C_64fc", &Formula::complex, twice, 15},
-                  {"C_64f", &Formula::complex, twice, 15},   {"R_64f", &Formula::real, twice, 16}};
+                  {"R_32f", &Formula::real, single, 17},     {"C_64fc", &Formula::complex, twice, 16},
+                  {"C_64f", &Formula::complex, twice, 16},   {"R_64f", &Formula::real, twice, 17}};
     // The integers' work begins with the converted data.
     const struct {
         const char *name, *nested;
@@ -288,8 +288,8 @@ TEST(Records, HoldTheirTables)
 {
     expectBitReversal<Zor32f>("C_32fc", 0, 16);
     expectBitReversal<Zor32f>("R_32f", 1, 16);
-    expectBitReversal<Zor64f>("C_64fc", 0, 15);
-    expectBitReversal<Zor64f>("R_64f", 1, 15);
+    expectBitReversal<Zor64f>("C_64fc", 0, 16);
+    expectBitReversal<Zor64f>("R_64f", 1, 16);
     expectRecombination<Zor32f>("R_32f", 5, 18);
     expectRecombination<Zor64f>("R_64f", 6, 17);
 }
