@@ -2,7 +2,7 @@
 # from every compiler and instruction set. Contraction to fused operations is off: it would differ by variant.
 set(ZORS_LIBRARY_OPTIONS
     -fvisibility=hidden -fvisibility-inlines-hidden -fno-exceptions -fno-rtti -fno-threadsafe-statics
-    -ffp-contract=off -fno-math-errno -fno-trapping-math
+    -ffp-contract=off -fno-math-errno -fno-trapping-math $<$<CONFIG:Release>:-O3>
     # g++ 12 takes the "undefined" operand inside its own intrinsics for an error of the caller.
     "$<$<CXX_COMPILER_ID:GNU>:-Wno-uninitialized;-Wno-maybe-uninitialized>"
     # A unique symbol would keep the library from being unloaded.

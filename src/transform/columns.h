@@ -1,5 +1,5 @@
 // Transforms of many columns at once: M rows of W columns become their M-point transforms, lane by lane, without
-// a shuffle. Passes of radix 2 to 8 that sort themselves (Stockham's arrangement, decimation in time): behind a
+// a shuffle. Passes of radix 4 to 16 that sort themselves (Stockham's arrangement, decimation in time): behind a
 // pass with l = product of the radices so far, row j M / l + g holds point j of the transform of every M / l-th
 // row from g on. The first pass needs no factors and may write where it reads.
 #pragma once
@@ -23,12 +23,12 @@ struct Passes {
     int m;
     int count = beginsWith16(m) ? m / mostLevels : (m + mostLevels - 1) / mostLevels;
 
-    // At most two levels are missing: the last pass lacks one, then the one before it, or again the only one.
+    // At most two levels are missing: the last pass lacks one, then the one before it. Or the first has one more.
     constexpr int levels(int pass) const
     {
-        if (beginsWith16(m)) return mostLevels + (pass == 0 ? 1 : 0);
         const int missing = count * mostLevels - m, behind = count - 1 - pass;
-        return mostLevels - (missing > behind ? 1 : 0) - (missing > count + behind ? 1 : 0);
+        if (missing < 0) return mostLevels + (pass == 0 ? 1 : 0);
+        return mostLevels - (missing > behind ? 1 : 0);
     }
 };
 
@@ -81,9 +81,6 @@ template <int W, bool First, class T, class In, class Out>
                             const T* factors)
 {
     switch (levels) {
-    case 1:
-        if constexpr (First) return columnPass<2, W, First>(in, out, done, groups, factors);
-        break;
     case 2:
         return columnPass<4, W, First>(in, out, done, groups, factors);
     case 4:
@@ -149,12 +146,11 @@ inline void allButLast(Progress<T>& at, In in, A a, B b)
     }
 }
 
-// All passes.
+// All passes, two or more.
 template <int W, class T, class In, class Out, class A, class B>
 inline void columns(int m, In in, Out out, A a, B b, const T* factors)
 {
     Progress<T> at(m, factors);
-    if (at.isLast()) return pass<W, true>(m, in, out, 1, 1, factors);
     if (at.passes.count == 2) {
         pass<W, true>(at.levels(), in, a, 1, at.groups >> at.levels(), factors);
         at.step();

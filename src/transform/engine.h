@@ -61,7 +61,8 @@ inline void sortedTransform(int order, const Arrays& io, const T* factor, T* wor
         });
     } else {
         constexpr bool halved = turnsHalves<T>(W);
-        scaledBy(factor, io.template sink < halved ? W / 2 : W > (), [&](const auto& out) {
+        constexpr int width = halved ? W / 2 : W;
+        scaledBy(factor, io.template sink<width>(), [&](const auto& out) {
             inPasses<W>(order, io.template source<W, halved>(), out, io.template room<W>(), work, factors);
         });
     }

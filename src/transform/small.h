@@ -137,16 +137,9 @@ inline void points32(const Arrays& io, const T* factor)
         exchangeBlocks<4>(x[k].im, x[k + 2].im);
         dft2(x[k], x[k + 2]);
     }
-    V re[4], im[4];
+    turnInside<8, T>(x);
 #pragma GCC unroll 4
-    for (int k = 0; k < 4; ++k) re[k] = x[k].re, im[k] = x[k].im;
-    transposeInside(re);
-    transposeInside(im);
-#pragma GCC unroll 4
-    for (int i = 0; i < 4; ++i) {
-        x[i] = {re[i], im[i]};
-        if (i > 0) x[i] = times(x[i], factorAt<T, 8>(factors, i + 2));
-    }
+    for (int i = 1; i < 4; ++i) x[i] = times(x[i], factorAt<T, 8>(factors, i + 2));
     dft<4>(x);
 #pragma GCC unroll 4
     for (int j = 0; j < 4; ++j) {

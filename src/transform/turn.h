@@ -38,21 +38,27 @@ using PointsOfBlocks = Cx<Vec<T, W>>[Turn<T, W>::blocks];
 template <class T, int W>
 using PointsOfLanes = Cx<Vec<T, W>>[Turn<T, W>::lanes];
 
+// The real parts transposed, and the imaginary ones.
+template <class V, int N, class Transpose>
+[[gnu::always_inline]] inline void transposeParts(Cx<V> (&x)[N], Transpose transpose)
+{
+    V re[N], im[N];
+#pragma GCC unroll 4
+    for (int i = 0; i < N; ++i) re[i] = x[i].re, im[i] = x[i].im;
+    transpose(re);
+    transpose(im);
+#pragma GCC unroll 4
+    for (int i = 0; i < N; ++i) x[i] = {re[i], im[i]};
+}
+
 // The first step: rows b, b + B, ... of a block, their blocks transposed, and then transformed.
 template <int W, int B, class T, class In>
 [[gnu::always_inline]] inline void takeRows(const In& in, PointsOfBlocks<T, W>& y)
 {
-    constexpr int blocks = Turn<T, W>::blocks;
-    Vec<T, W> re[blocks], im[blocks];
 #pragma GCC unroll 4
-    for (int c = 0; c < blocks; ++c) {
-        const Cx<Vec<T, W>> v = in.get(rowOfLane<T, W>(Turn<T, W>::lanes * c + B));
-        re[c] = v.re, im[c] = v.im;
-    }
-    transposeBlocks(re);
-    transposeBlocks(im);
-#pragma GCC unroll 4
-    for (int a = 0; a < blocks; ++a) y[a] = {re[a], im[a]};
+    for (int c = 0; c < Turn<T, W>::blocks; ++c) y[c] = in.get(rowOfLane<T, W>(Turn<T, W>::lanes * c + B));
+    transposeParts(
+        y, [](auto& part) __attribute__((always_inline)) { transposeBlocks(part); });
 }
 
 template <int W, int B, class T, class Table>
@@ -70,14 +76,8 @@ template <int W, int B, class T, class Table>
 template <int W, class T>
 [[gnu::always_inline]] inline void turnInside(PointsOfLanes<T, W>& z)
 {
-    constexpr int lanes = Turn<T, W>::lanes;
-    Vec<T, W> re[lanes], im[lanes];
-#pragma GCC unroll 4
-    for (int b = 0; b < lanes; ++b) re[b] = z[b].re, im[b] = z[b].im;
-    transposeInside(re);
-    transposeInside(im);
-#pragma GCC unroll 4
-    for (int i = 0; i < lanes; ++i) z[i] = {re[i], im[i]};
+    transposeParts(
+        z, [](auto& part) __attribute__((always_inline)) { transposeInside(part); });
 }
 
 template <int W, int Q, class T, class Table>
@@ -178,6 +178,7 @@ template <int W, class T, class Out>
                                                 std::ptrdiff_t first, std::ptrdiff_t step, const T* factors)
 {
     constexpr int half = W / 2;
+    static_assert(Turn<T, half>::blocks == 2);
     constexpr std::ptrdiff_t evenFactors = 2 * half * (half - 1), oddFactors = 2 * half * half;
     const auto next = ShortTable<T, half>::next(factors + 2 * all * (evenFactors + oddFactors));
     const Stride stride = out.stride(2 * all);

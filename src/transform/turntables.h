@@ -133,7 +133,7 @@ private:
 template <class T, int W>
 class ShortTable {
 public:
-    // Behind all.
+    // From b = 0 to b = 1, from what stands behind all.
     static Cx<Vec<T, W>> next(const T* p)
     {
         constexpr int each = lanesOfBlock<Vec<T>>;

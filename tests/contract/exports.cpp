@@ -72,6 +72,7 @@ struct Declaration {
     const char* list;
     ZorStatus (*invoke)(void* function, const Value* arguments);
     Parameter (*const* parameters)(const std::string& name);
+    std::size_t count;
 };
 
 template <class... A>
@@ -90,13 +91,13 @@ ZorStatus invoke(void* function, const Value* arguments)
 template <class... A>
 constexpr Declaration declaration(const char* name, const char* list, ZorStatus (*)(A...))
 {
-    return {name, list, invoke<A...>, parametersOf<A...>.data()};
+    return {name, list, invoke<A...>, parametersOf<A...>.data(), sizeof...(A)};
 }
 
 template <class R, class... A>
 constexpr Declaration declaration(const char* name, const char* list, R (*)(A...))
 {
-    return {name, list, nullptr, nullptr};
+    return {name, list, nullptr, nullptr, 0};
 }
 
 Export exportOf(const Declaration& d)
@@ -106,8 +107,8 @@ Export exportOf(const Declaration& d)
         e.unreachable = "returns no status";
         return e;
     }
-    for (const std::string& name : parameterNames(d.list))
-        e.parameters.push_back(d.parameters[e.parameters.size()](name));
+    const auto names = parameterNames(d.list);
+    for (std::size_t i = 0; i < d.count; ++i) e.parameters.push_back(d.parameters[i](names.at(i)));
     if (e.has(Role::unknown)) e.unreachable = "takes a record or rows of pointers";
     if (!e.has(Role::length)) e.unreachable = "has no length";
     return e;
