@@ -71,18 +71,26 @@ inline void store(T* p, Part<N> at, Vec<T, N> v)
     storeFirst<N>(p + at.index, v, at.count);
 }
 
+// The base of a case of a function that is seldom asked for: its loop is the plain one, because loops for all cases
+// are most of the library's code.
+struct Rare {};
+
+template <class Case>
+inline constexpr bool isRare = std::is_base_of_v<Rare, Case>;
+
 // Steps of N elements, four at a time while they last, then what is left over. Always inlined: called, it would get
 // what the body captures through the stack, and that costs a short vector more than its elements.
-template <int N, class Body>
+template <int N, class Case = void, class Body>
 [[gnu::always_inline]] inline void blocks(std::ptrdiff_t len, Body body)
 {
     std::ptrdiff_t i = 0;
-    for (; i + 4 * N <= len; i += 4 * N) {
-        body(Whole<N>{i});
-        body(Whole<N>{i + N});
-        body(Whole<N>{i + 2 * N});
-        body(Whole<N>{i + 3 * N});
-    }
+    if constexpr (!isRare<Case>)
+        for (; i + 4 * N <= len; i += 4 * N) {
+            body(Whole<N>{i});
+            body(Whole<N>{i + N});
+            body(Whole<N>{i + 2 * N});
+            body(Whole<N>{i + 3 * N});
+        }
     for (; i + N <= len; i += N) body(Whole<N>{i});
     if (i < len) body(Part<N>{i, static_cast<int>(len - i)});
 }
@@ -94,10 +102,12 @@ inline constexpr std::ptrdiff_t streamedBytes = std::ptrdiff_t{12} << 20;
 template <int N, class Body>
 inline void streamedBlocks(std::ptrdiff_t head, std::ptrdiff_t len, Body body)
 {
-    if (head > 0) body(Part<N>{0, static_cast<int>(head)});
     std::ptrdiff_t i = head;
     for (; i + N <= len; i += N) body(Streamed<N>{i});
-    if (i < len) body(Part<N>{i, static_cast<int>(len - i)});
+        // A loop, not to be unrolled: both ends are one piece of code.
+#pragma GCC unroll 1
+    for (const auto end : {Part<N>{0, static_cast<int>(head)}, Part<N>{i, static_cast<int>(len - i)}})
+        if (end.count > 0) body(end);
     streamFence();
 }
 
@@ -127,10 +137,12 @@ template <int N, int Each, class Body, class T, class... More>
 }
 
 // The same steps for a body that stores to nothing but the destinations. A destination must not be a source as well.
-template <int N, int Each = 1, class Body, class... T>
+template <int N, int Each = 1, class Case = void, class Body, class... T>
 [[gnu::always_inline]] inline void blocksInto(std::ptrdiff_t len, Body body, T*... pDst)
 {
-    if (!streams<N, Each>(len, body, pDst...)) blocks<N>(len, body);
+    if constexpr (!isRare<Case>)
+        if (streams<N, Each>(len, body, pDst...)) return;
+    blocks<N, Case>(len, body);
 }
 
 } // namespace zors::ZORS_VARIANT

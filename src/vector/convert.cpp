@@ -27,9 +27,9 @@ void convertBlocks(const S* pSrc, D* pDst, int len, Scaling scale)
     constexpr int step = std::min(lanes<S>, lanes<D>);
     const auto body = [=](auto at) { store(pDst, at, scale(converted<D, S, step>(load(pSrc, at)))); };
     if constexpr (step == lanes<D>)
-        blocksInto<step>(len, body, pDst);
+        blocksInto<step, 1, Scaling>(len, body, pDst);
     else
-        blocks<step>(len, body);
+        blocks<step, Scaling>(len, body);
 }
 
 template <class S, class D>
@@ -71,8 +71,8 @@ ZorStatus convert32s32fScaled(const Zor32s* pSrc, Zor32f* pDst, int len, int sca
     const StandardArithmetic arithmetic;
     constexpr int step = lanes<Zor64f>;
     withScale<Zor64f>(scaleFactor, [=](auto scale) {
-        blocks<step>(len,
-                     [=](auto at) { store(pDst, at, toFloat<step>(scale(toDouble<step>(load(pSrc, at))))); });
+        blocks<step, decltype(scale)>(
+            len, [=](auto at) { store(pDst, at, toFloat<step>(scale(toDouble<step>(load(pSrc, at))))); });
     });
     return zorStsOk;
 }

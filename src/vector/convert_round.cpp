@@ -34,7 +34,7 @@ ZorStatus convert(const S* pSrc, D* pDst, int len, ZorRoundMode rndMode, int sca
             const auto body = [=](auto at) {
                 store(pDst, at, roundedTo<D, rounding()>(each(loadGroup(pSrc, at), scale)));
             };
-            blocksInto<lanes<D>>(len, body, pDst);
+            blocksInto<lanes<D>, 1, decltype(scale)>(len, body, pDst);
         });
     });
     return zorStsOk;
@@ -47,7 +47,7 @@ ZorStatus convertTo24(const Zor32f* pSrc, Zor8u* pDst, int len, ZorRoundMode rnd
     const StandardArithmetic arithmetic;
     withScale<Zor32f>(scaleFactor, [=](auto scale) {
         withRounding(rndMode, [=](auto rounding) {
-            blocks<lanes24>(len, [=](auto at) {
+            blocks<lanes24, decltype(scale)>(len, [=](auto at) {
                 const auto r = roundedBetween<rounding()>(least, most, scale(load(pSrc, at)));
                 store24(pDst, at, (Vec<Zor32u>)r);
             });
@@ -87,7 +87,7 @@ ZorStatus convert16f16s(const Zor16f* pSrc, Zor16s* pDst, int len, ZorRoundMode 
     const StandardArithmetic arithmetic;
     withScale<Zor32f>(scaleFactor, [=](auto scale) {
         withRounding(rndMode, [=](auto rounding) {
-            blocks<lanes<Zor16s>>(len, [=](auto at) {
+            blocks<lanes<Zor16s>, decltype(scale)>(len, [=](auto at) {
                 const auto values =
                     grouped<lanesHalf>(at, [=](auto part) { return scale(fromHalf(load(pSrc, part))); });
                 store(pDst, at, roundedTo<Zor16s, rounding()>(values));

@@ -15,7 +15,7 @@ void accumulate(const A* pSrc1, const B* pSrc2, T* pSrcDst, int len, int scaleFa
 {
     using L = Lane<T>;
     withScale(scaleFactor, zeroAbove, pSrcDst, len, [=](auto scale) {
-        blocks<lanes<L>>(len, [=](auto at) {
+        blocks<lanes<L>, decltype(scale)>(len, [=](auto at) {
             store(pSrcDst, at,
                   scaled<L>(operation(load(pSrc1, at), load(pSrc2, at), load(pSrcDst, at)), scale));
         });
@@ -57,8 +57,8 @@ ZorStatus addProduct(const T* pSrc1, const T* pSrc2, T* pSrcDst, int len)
 {
     if (const ZorStatus bad = check(pointers(pSrc1, pSrc2, pSrcDst), length(len))) return bad;
     const auto a = elements(pSrc1), b = elements(pSrc2), c = elements(pSrcDst);
-    combine([=](auto at) { return Multiply::unscaled<T>(a(at), b(at)); }, c, pSrcDst, len, true,
-            [](auto product, auto old) { return old + product; });
+    combine<Unscaled>([=](auto at) { return Multiply::unscaled<T>(a(at), b(at)); }, c, pSrcDst, len, true,
+                      [](auto product, auto old) { return old + product; });
     return zorStsOk;
 }
 
@@ -116,7 +116,7 @@ ZorStatus mul16s32s(const Zor16s* pSrc1, const Zor16s* pSrc2, Zor32s* pDst, int 
 {
     if (const ZorStatus bad = check(pointers(pSrc1, pSrc2, pDst), length(len))) return bad;
     withScale(scaleFactor, 30, pDst, len, [=](auto scale) {
-        blocksInto<lanes<Zor32s>>(
+        blocksInto<lanes<Zor32s>, 1, decltype(scale)>(
             len,
             [=](auto at) {
                 store(pDst, at, scaled<Zor32s>(wideProduct(load(pSrc1, at), load(pSrc2, at)), scale));
@@ -130,8 +130,8 @@ ZorStatus mul16u16s(const Zor16u* pSrc1, const Zor16s* pSrc2, Zor16s* pDst, int 
 {
     if (const ZorStatus bad = check(pointers(pSrc1, pSrc2, pDst), length(len))) return bad;
     withScale(scaleFactor, 31, pDst, len, [=](auto scale) {
-        combine(elements(pSrc1), elements(pSrc2), pDst, len, pDst == pSrc2,
-                [=](auto a, auto b) { return scaled<Zor16s>(products(a, b), scale); });
+        combine<decltype(scale)>(elements(pSrc1), elements(pSrc2), pDst, len, pDst == pSrc2,
+                                 [=](auto a, auto b) { return scaled<Zor16s>(products(a, b), scale); });
     });
     return zorStsOk;
 }
@@ -160,11 +160,11 @@ auto twice(const T* p)
 ZorStatus mul32s32sc(const Zor32s* pSrc1, const Zor32sc* pSrc2, Zor32sc* pDst, int len, int scaleFactor)
 {
     if (const ZorStatus bad = check(pointers(pSrc1, pSrc2, pDst), length(len))) return bad;
-    withScale(scaleFactor, Multiply::zeroAbove<Zor32s>, asLanes(pDst), laneCount<Zor32sc>(len),
-              [=](auto scale) {
-                  combine(twice(pSrc1), elements(pSrc2), pDst, len, pDst == pSrc2,
-                          [=](auto a, auto b) { return scaled<Zor32s>(products(a, b), scale); });
-              });
+    withScale(
+        scaleFactor, Multiply::zeroAbove<Zor32s>, asLanes(pDst), laneCount<Zor32sc>(len), [=](auto scale) {
+            combine<decltype(scale)>(twice(pSrc1), elements(pSrc2), pDst, len, pDst == pSrc2,
+                                     [=](auto a, auto b) { return scaled<Zor32s>(products(a, b), scale); });
+        });
     return zorStsOk;
 }
 
@@ -176,7 +176,8 @@ ZorStatus mul32s32scInPlace(const Zor32s* pSrc, Zor32sc* pSrcDst, int len, int s
 ZorStatus mul32f32fc(const Zor32f* pSrc1, const Zor32fc* pSrc2, Zor32fc* pDst, int len)
 {
     if (const ZorStatus bad = check(pointers(pSrc1, pSrc2, pDst), length(len))) return bad;
-    combine(twice(pSrc1), elements(pSrc2), pDst, len, pDst == pSrc2, [](auto a, auto b) { return a * b; });
+    combine<Unscaled>(twice(pSrc1), elements(pSrc2), pDst, len, pDst == pSrc2,
+                      [](auto a, auto b) { return a * b; });
     return zorStsOk;
 }
 

@@ -26,14 +26,16 @@ auto constant(T value)
 }
 
 // Stores operation(a, b) for all places; in place where the destination is a source.
-template <class T, class A, class B, class Operation>
+template <class Case, class T, class A, class B, class Operation>
 [[gnu::always_inline]] inline void combine(A a, B b, T* pDst, int len, bool inPlace, Operation operation)
 {
     using L = Lane<T>;
     L* p = asLanes(pDst);
     const std::ptrdiff_t count = laneCount<T>(len);
     const auto body = [=](auto at) { store(p, at, operation(a(at), b(at))); };
-    if (inPlace || !streams<lanes<L>, LaneOf<T>::each>(count, body, p)) blocks<lanes<L>>(count, body);
+    if constexpr (!isRare<Case>)
+        if (!inPlace && streams<lanes<L>, LaneOf<T>::each>(count, body, p)) return;
+    blocks<lanes<L>, Case>(count, body);
 }
 
 } // namespace zors::ZORS_VARIANT

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "simd/convert.h"
+#include "simd/loop.h"
 
 #include <zortypes.h>
 
@@ -40,7 +41,7 @@ struct ScaledOnce {
 // Two factors in the same direction: neither leaves the range of a normal number, and together they round once
 // at the most.
 template <class T>
-struct ScaledTwice {
+struct ScaledTwice : Rare {
     T first, second;
     template <class V>
     V operator()(V v) const
@@ -59,7 +60,7 @@ void withScale(int scaleFactor, Run run)
     if (exponent == 0) return run(AsItIs{});
     if (std::abs(exponent) <= largest) return run(ScaledOnce<T>{powerOfTwo<T>(exponent)});
     const int first = exponent > 0 ? largest : -largest;
-    run(ScaledTwice<T>{powerOfTwo<T>(first), powerOfTwo<T>(exponent - first)});
+    run(ScaledTwice<T>{{}, powerOfTwo<T>(first), powerOfTwo<T>(exponent - first)});
 }
 
 } // namespace zors::ZORS_VARIANT

@@ -13,7 +13,7 @@ struct Halved {};
 struct Down {
     int count;
 };
-struct Up {
+struct Up : Rare {
     int count;
 };
 
@@ -32,7 +32,7 @@ inline void withScale(int scaleFactor, int zeroAbove, T* pDst, std::ptrdiff_t le
     else if (scaleFactor > 0)
         run(Down{scaleFactor});
     else
-        run(Up{scaleFactor < -mostUp ? mostUp : -scaleFactor});
+        run(Up{{}, scaleFactor < -mostUp ? mostUp : -scaleFactor});
 }
 
 // Exact results in lanes that hold them, those of T or wider ones. The saturation of an unscaled or a scaled down

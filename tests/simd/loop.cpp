@@ -1,13 +1,16 @@
 #include "simd/loop.h"
 
-#include "support/oracle.h"
+#include "cases.h"
+#include "expect.h"
+#include "support/random.h"
 
 #include <algorithm>
-#include <gtest/gtest.h>
 #include <vector>
 
 namespace zors::ZORS_VARIANT {
-namespace {
+
+using test::expect;
+using test::expectEqual;
 
 // Counts how often the places of a loop cover each element.
 struct Coverage {
@@ -19,11 +22,10 @@ struct Coverage {
         int count = At::lanes;
         if constexpr (requires { at.count; }) {
             count = at.count;
-            EXPECT_GT(count, 0);
-            EXPECT_LT(count, At::lanes);
+            expect(count > 0 && count < At::lanes, {count});
         }
-        ASSERT_GE(at.index, 0);
-        ASSERT_LE(at.index + count, static_cast<std::ptrdiff_t>(times.size()));
+        const auto len = static_cast<std::ptrdiff_t>(times.size());
+        if (!expect(at.index >= 0 && at.index + count <= len, {at.index, count, len})) return;
         for (int i = 0; i < count; ++i) ++times[static_cast<std::size_t>(at.index + i)];
     }
 
@@ -41,11 +43,11 @@ void expectBlocks()
     for (std::ptrdiff_t len = 0; len <= 9 * N; ++len) {
         Coverage coverage(len);
         blocks<N>(len, [&](auto at) { coverage(at); });
-        ASSERT_TRUE(coverage.once()) << "length " << len << ", step " << N;
+        expect(coverage.once(), {len, N});
     }
 }
 
-TEST(Loop, BlocksCoverEachElementOnce)
+void blocksCoverEachElementOnce()
 {
     expectBlocks<lanes<std::uint8_t>>();
     expectBlocks<lanes<std::uint16_t>>();
@@ -62,11 +64,11 @@ std::ptrdiff_t streamedSteps(std::ptrdiff_t len, T* pDst, More*... more)
         coverage(at);
         if constexpr (std::is_same_v<At, Streamed<N>>) {
             ++steps;
-            ASSERT_EQ(reinterpret_cast<std::uintptr_t>(pDst + at.index) % vectorBytes, 0u);
+            expectEqual(reinterpret_cast<std::uintptr_t>(pDst + at.index) % vectorBytes, 0u, {len});
         }
     };
     blocksInto<N>(len, body, pDst, more...);
-    EXPECT_TRUE(coverage.once()) << "length " << len;
+    expect(coverage.once(), {len});
     return steps;
 }
 
@@ -82,36 +84,37 @@ void expectStreamed()
 {
     constexpr int n = lanes<T>, size = sizeof(T);
     constexpr std::ptrdiff_t least = streamedBytes / size;
-    EXPECT_EQ(streamedSteps<n>(least - 1, placeAt<T>(0)), 0);
+    expectEqual(streamedSteps<n>(least - 1, placeAt<T>(0)), 0);
     for (const std::ptrdiff_t len : {least, least + 1, least + n - 1}) {
-        EXPECT_EQ(streamedSteps<n>(len, placeAt<T>(0)), len / n);
+        expectEqual(streamedSteps<n>(len, placeAt<T>(0)), len / n);
         for (const int head : {1, n / 2, n - 1})
-            EXPECT_EQ(streamedSteps<n>(len, placeAt<T>((n - head) * size)), (len - head) / n);
+            expectEqual(streamedSteps<n>(len, placeAt<T>((n - head) * size)), (len - head) / n);
     }
 }
 
-TEST(Loop, BlocksIntoStreamLongDestinations)
+void blocksIntoStreamLongDestinations()
 {
     static_assert(streamedBytes <= test::longBytes, "no test of a public function would be streamed");
-    for (std::ptrdiff_t len = 0; len < 300; ++len) EXPECT_EQ(streamedSteps<16>(len, placeAt<char>(1)), 0);
+    for (std::ptrdiff_t len = 0; len < 300; ++len)
+        expectEqual(streamedSteps<16>(len, placeAt<char>(1)), 0, {len});
     expectStreamed<std::uint16_t>();
     expectStreamed<std::uint64_t>();
 }
 
-TEST(Loop, BlocksIntoStreamOnlyWhatReachesAlignedAddresses)
+void blocksIntoStreamOnlyWhatReachesAlignedAddresses()
 {
     constexpr int n = lanes<float>;
     constexpr std::ptrdiff_t len = streamedBytes / 4 + 1;
     struct Pair32 {
         float re, im;
     };
-    EXPECT_EQ(streamedSteps<n>(len, placeAt<Pair32>(4)), 0);
-    EXPECT_GT(streamedSteps<n>(len, placeAt<Pair32>(8)), 0);
-    EXPECT_EQ(streamedSteps<n>(len, placeAt<float>(4), placeAt<float>(8)), 0);
-    EXPECT_GT(streamedSteps<n>(len, placeAt<float>(4), placeAt<float>(4 + vectorBytes)), 0);
+    expectEqual(streamedSteps<n>(len, placeAt<Pair32>(4)), 0);
+    expect(streamedSteps<n>(len, placeAt<Pair32>(8)) > 0);
+    expectEqual(streamedSteps<n>(len, placeAt<float>(4), placeAt<float>(8)), 0);
+    expect(streamedSteps<n>(len, placeAt<float>(4), placeAt<float>(4 + vectorBytes)) > 0);
 }
 
-TEST(Loop, PlacesLoadAndStoreWhatTheyCover)
+void placesLoadAndStoreWhatTheyCover()
 {
     constexpr int n = lanes<std::int32_t>;
     alignas(64) std::int32_t src[3 * n], dst[3 * n];
@@ -119,8 +122,7 @@ TEST(Loop, PlacesLoadAndStoreWhatTheyCover)
     store(dst, Whole<n>{0}, load(src, Whole<n>{0}));
     store(dst, Streamed<n>{n}, load(src, Streamed<n>{n}));
     store(dst, Part<n>{2 * n, n - 1}, load(src, Part<n>{2 * n, n - 1}));
-    for (int i = 0; i < 3 * n; ++i) EXPECT_EQ(dst[i], i < 3 * n - 1 ? i + 1 : -1);
+    for (int i = 0; i < 3 * n; ++i) expectEqual(dst[i], i < 3 * n - 1 ? i + 1 : -1, {i});
 }
 
-} // namespace
 } // namespace zors::ZORS_VARIANT

@@ -1,12 +1,13 @@
 #include "simd/memory.h"
 
+#include "cases.h"
+#include "expect.h"
 #include "support/random.h"
 
-#include <gtest/gtest.h>
-
 namespace zors::ZORS_VARIANT {
-namespace {
 
+using test::expect;
+using test::expectEqual;
 using test::Random;
 using test::RandomVector;
 
@@ -21,27 +22,28 @@ void expectParts()
         const auto whole = load<N>(p), first = loadFirst<N>(p, count), last = loadLast<N>(p, count);
         RandomVector<T> stored(N, 3, random), wanted = stored;
         store<N>(stored.data(), whole);
-        std::copy_n(p, N, wanted.data());
-        EXPECT_TRUE(stored == wanted);
+        std::memcpy(wanted.data(), p, N * sizeof(T));
+        expect(stored == wanted);
         for (int i = 0; i < N; ++i) {
-            ASSERT_EQ(whole[i], p[i]);
-            ASSERT_EQ(first[i], i < count ? p[i] : T{}) << "lane " << i << " of " << count;
-            ASSERT_EQ(last[i], i >= N - count ? p[i - (N - count)] : T{}) << "lane " << i << " of " << count;
+            expectEqual(whole[i], p[i], {i});
+            expectEqual(first[i], i < count ? p[i] : T{}, {i, count});
+            expectEqual(last[i], i >= N - count ? p[i - (N - count)] : T{}, {i, count});
         }
 
         RandomVector<T> front(N, 1, random), back(N, 1, random), wantFront = front, wantBack = back;
         storeFirst<N>(front.data(), whole, count);
         storeLast<N>(back.data(), whole, count);
-        std::copy_n(p, count, wantFront.data());
-        std::copy_n(p + N - count, count, wantBack.data());
-        EXPECT_TRUE(front == wantFront) << count << " of " << N << " lanes, element size " << sizeof(T);
-        EXPECT_TRUE(back == wantBack) << count << " of " << N << " lanes, element size " << sizeof(T);
+        const std::size_t bytes = static_cast<std::size_t>(count) * sizeof(T);
+        std::memcpy(wantFront.data(), p, bytes);
+        std::memcpy(wantBack.data(), p + N - count, bytes);
+        expect(front == wantFront, {count, N, sizeof(T)});
+        expect(back == wantBack, {count, N, sizeof(T)});
     }
     // Lanes of 8 bytes fill a register or, narrower, do not occur.
     if constexpr (N > 2 && sizeof(T) < 8) expectParts<T, N / 2>();
 }
 
-TEST(Memory, PartsTouchTheirLanesAndNoOthers)
+void partsTouchTheirLanesAndNoOthers()
 {
     expectParts<std::uint8_t, lanes<std::uint8_t>>();
     expectParts<std::int16_t, lanes<std::int16_t>>();
@@ -49,7 +51,7 @@ TEST(Memory, PartsTouchTheirLanesAndNoOthers)
     expectParts<std::uint64_t, lanes<std::uint64_t>>();
 }
 
-TEST(Memory, StreamingStoresAVector)
+void streamingStoresAVector()
 {
     Random random;
     RandomVector<std::uint16_t> got(lanes<std::uint16_t>, 0, random), want = got;
@@ -57,8 +59,7 @@ TEST(Memory, StreamingStoresAVector)
     storeStreaming<lanes<std::uint16_t>>(got.data(), v);
     streamFence();
     store<lanes<std::uint16_t>>(want.data(), v);
-    EXPECT_TRUE(got == want);
+    expect(got == want);
 }
 
-} // namespace
 } // namespace zors::ZORS_VARIANT

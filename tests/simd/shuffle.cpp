@@ -1,13 +1,14 @@
 #include "simd/bytes24.h"
 #include "simd/complex.h"
 
+#include "cases.h"
+#include "expect.h"
 #include "support/random.h"
 
-#include <gtest/gtest.h>
-
 namespace zors::ZORS_VARIANT {
-namespace {
 
+using test::expect;
+using test::expectEqual;
 using test::Random;
 using test::RandomVector;
 
@@ -36,17 +37,17 @@ void expectShuffles()
     const auto swapped = bitsAs<std::uint8_t>(byteSwapped(bitsAs<T>(a)));
     for (int i = 0; i < n; ++i) {
         const int from = Mixed{}(i);
-        EXPECT_EQ(mixed[i], from < n ? a[from] : b[from - n]);
-        EXPECT_EQ(pairs[2 * i], a[i]);
-        EXPECT_EQ(pairs[2 * i + 1], b[i]);
-        EXPECT_EQ(back.first[i], a[i]);
-        EXPECT_EQ(back.second[i], b[i]);
+        expectEqual(mixed[i], from < n ? a[from] : b[from - n], {i});
+        expectEqual(pairs[2 * i], a[i], {i});
+        expectEqual(pairs[2 * i + 1], b[i], {i});
+        expectEqual(back.first[i], a[i], {i});
+        expectEqual(back.second[i], b[i], {i});
     }
     for (int i = 0; i < vectorBytes; ++i)
-        EXPECT_EQ(swapped[i], bitsAs<std::uint8_t>(a)[i / size * size + size - 1 - i % size]) << size;
+        expectEqual(swapped[i], bitsAs<std::uint8_t>(a)[i / size * size + size - 1 - i % size], {i, size});
 }
 
-TEST(Shuffle, PermutesInterleavesAndSwaps)
+void permutesInterleavesAndSwaps()
 {
     expectShuffles<std::uint16_t>();
     expectShuffles<std::uint32_t>();
@@ -60,11 +61,10 @@ void expectReversed()
     const auto v = randomLanes<T>(random);
     const auto from = bitsAs<std::uint8_t>(v), to = bitsAs<std::uint8_t>(reversed<Size>(v));
     for (int i = 0; i < vectorBytes; ++i)
-        EXPECT_EQ(to[i], from[vectorBytes - Size - i / Size * Size + i % Size])
-            << "byte " << i << " of " << Size;
+        expectEqual(to[i], from[vectorBytes - Size - i / Size * Size + i % Size], {i, Size});
 }
 
-TEST(Shuffle, ReversesElementsOfEverySize)
+void reversesElementsOfEverySize()
 {
     expectReversed<1, std::uint8_t>();
     expectReversed<2, std::uint16_t>();
@@ -83,14 +83,14 @@ void expect24(At at, int count)
     const std::uint8_t* p = src.data() + 3 * at.index;
     const auto v = load24(src.data(), at);
     for (int i = 0; i < lanes24; ++i)
-        EXPECT_EQ(v[i], i < count ? p[3 * i] | p[3 * i + 1] << 8 | p[3 * i + 2] << 16 : 0u)
-            << i << " of " << count;
+        expectEqual(v[i], i < count ? unsigned(p[3 * i] | p[3 * i + 1] << 8 | p[3 * i + 2] << 16) : 0u,
+                    {i, count});
     store24(got.data(), at, v | 0xab000000u);
-    std::copy_n(p, 3 * count, want.data() + 3 * at.index);
-    EXPECT_TRUE(got == want) << count;
+    std::memcpy(want.data() + 3 * at.index, p, static_cast<std::size_t>(3 * count));
+    expect(got == want, {count});
 }
 
-TEST(Bytes24, LoadsAndStoresThreeBytesALane)
+void loadsAndStoresThreeBytesALane()
 {
     expect24(Whole<lanes24>{1}, lanes24);
     for (int count = 1; count < lanes24; ++count) expect24(Part<lanes24>{1, count}, count);
@@ -107,12 +107,12 @@ void expectPairs(At at, int count)
     storePairs(dst, at, v.second, v.first);
     for (int i = 0; i < 2 * n; ++i) {
         const bool inside = i >= at.index && i < at.index + count;
-        EXPECT_EQ(dst[2 * i], inside ? src[2 * i + 1] : -1) << i << " of " << count;
-        EXPECT_EQ(dst[2 * i + 1], inside ? src[2 * i] : -1) << i << " of " << count;
+        expectEqual(dst[2 * i], inside ? src[2 * i + 1] : -1, {i, count});
+        expectEqual(dst[2 * i + 1], inside ? src[2 * i] : -1, {i, count});
     }
 }
 
-TEST(Complex, LoadsAndStoresPairs)
+void loadsAndStoresPairs()
 {
     constexpr int n = lanes<float>;
     expectPairs(Whole<n>{1}, n);
@@ -120,5 +120,4 @@ TEST(Complex, LoadsAndStoresPairs)
     for (int count = 1; count < n; ++count) expectPairs(Part<n>{1, count}, count);
 }
 
-} // namespace
 } // namespace zors::ZORS_VARIANT

@@ -21,9 +21,6 @@ struct Each {
     int destination = 1;
 };
 
-// No destination of this size is kept in the caches.
-inline constexpr std::ptrdiff_t longBytes = std::ptrdiff_t{16} << 20;
-
 enum class Lengths { small, smallAndLong };
 
 // Not a part of the templates below, which are many: the message alone takes long to compile.

@@ -13,6 +13,9 @@ namespace zors::test {
 
 using Random = std::mt19937_64;
 
+// No vector of this size is kept in the caches.
+inline constexpr std::ptrdiff_t longBytes = std::ptrdiff_t{16} << 20;
+
 inline int below(int limit, Random& random)
 {
     return static_cast<int>(random() % static_cast<std::uint64_t>(limit));

@@ -1,0 +1,31 @@
+// Assertions for code that is compiled for a variant. They lead out of it at once: GoogleTest's own would be
+// compiled for every processor again, and with them half of what a test takes to build.
+#pragma once
+
+#include <cstddef>
+#include <initializer_list>
+#include <source_location>
+
+namespace zors::test {
+
+// Places in what is tested, for the message: a lane, a count.
+using Places = std::initializer_list<std::ptrdiff_t>;
+
+void fail(Places places, std::source_location where);
+void failEqual(double got, double want, Places places, std::source_location where);
+
+inline bool expect(bool holds, Places places = {},
+                   std::source_location where = std::source_location::current())
+{
+    if (!holds) fail(places, where);
+    return holds;
+}
+
+template <class T>
+void expectEqual(T got, std::type_identity_t<T> want, Places places = {},
+                 std::source_location where = std::source_location::current())
+{
+    if (got != want) failEqual(static_cast<double>(got), static_cast<double>(want), places, where);
+}
+
+} // namespace zors::test
