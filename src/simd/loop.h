@@ -102,12 +102,13 @@ inline constexpr std::ptrdiff_t streamedBytes = std::ptrdiff_t{12} << 20;
 template <int N, class Body>
 inline void streamedBlocks(std::ptrdiff_t head, std::ptrdiff_t len, Body body)
 {
-    std::ptrdiff_t i = head;
-    for (; i + N <= len; i += N) body(Streamed<N>{i});
-        // A loop, not to be unrolled: both ends are one piece of code.
-#pragma GCC unroll 1
-    for (const auto end : {Part<N>{0, static_cast<int>(head)}, Part<N>{i, static_cast<int>(len - i)}})
-        if (end.count > 0) body(end);
+    // A round for each end, so that both are one piece of code: it is not short.
+    std::ptrdiff_t i = 0;
+    for (std::ptrdiff_t end = head; i < len; end = len - i) {
+        if (end > 0) body(Part<N>{i, static_cast<int>(end)});
+        i += end;
+        for (; i + N <= len; i += N) body(Streamed<N>{i});
+    }
     streamFence();
 }
 
