@@ -74,11 +74,42 @@ inline V reversed(V v)
     }
 }
 
+// Two blocks of 16 bytes a vector: no single instruction takes lanes of two vectors across blocks, as one does inside
+// them and another one whole blocks.
+template <class V>
+inline constexpr bool hasTwoBlocks = sizeof(V) == 32 && sizeof(ElementOf<V>) >= 4;
+
+// The first blocks of a and b, and the second ones.
+template <class V>
+inline Pair<V> blocksTogether(V a, V b)
+{
+    constexpr int half = lanesOf<V> / 2;
+    struct First {
+        constexpr int operator()(int i) const { return i < half ? i : i + half; }
+    };
+    struct Second {
+        constexpr int operator()(int i) const { return i < half ? i + half : i + 2 * half; }
+    };
+    return {permute<First>(a, b), permute<Second>(a, b)};
+}
+
 // a0 b0 a1 b1 ... in two vectors.
 template <class V>
 inline Pair<V> interleave(V a, V b)
 {
     constexpr int n = lanesOf<V>;
+    if constexpr (hasTwoBlocks<V>) {
+        struct LowInside {
+            constexpr int operator()(int i) const
+            {
+                return i / (n / 2) * (n / 2) + i % (n / 2) / 2 + i % 2 * n;
+            }
+        };
+        struct HighInside {
+            constexpr int operator()(int i) const { return LowInside{}(i) + n / 4; }
+        };
+        return blocksTogether(permute<LowInside>(a, b), permute<HighInside>(a, b));
+    }
     struct Low {
         constexpr int operator()(int i) const { return i / 2 + (i % 2) * n; }
     };
@@ -104,6 +135,21 @@ inline auto doubled(H half)
 template <class V>
 inline Pair<V> deinterleave(V a, V b)
 {
+    if constexpr (hasTwoBlocks<V>) {
+        struct EvenInside {
+            constexpr int operator()(int i) const
+            {
+                constexpr int n = lanesOf<V>, each = n / 2;
+                const int block = i / each, inside = 2 * (i % each);
+                return block * each + (inside < each ? inside : n + inside - each);
+            }
+        };
+        struct OddInside {
+            constexpr int operator()(int i) const { return EvenInside{}(i) + 1; }
+        };
+        const auto v = blocksTogether(a, b);
+        return {permute<EvenInside>(v.first, v.second), permute<OddInside>(v.first, v.second)};
+    }
     struct Even {
         constexpr int operator()(int i) const { return 2 * i; }
     };
