@@ -134,17 +134,22 @@ template <int S, class V>
     }
 }
 
-template <int R, class V>
-[[gnu::always_inline]] inline void dft(Cx<V> (&x)[R])
+// The transform of the points that take(t) puts into x[t]. Each is taken just before it is used: compilers keep the
+// order of the source, and with all of them taken first they run out of registers.
+template <int R, class V, class Take>
+[[gnu::always_inline]] inline void dft(Cx<V> (&x)[R], Take take)
 {
-    if constexpr (R == 1) {
-    } else if constexpr (R == 2) {
-        dft2(x[0], x[1]);
-    } else if constexpr (R == 4) {
-        dft4(x[0], x[1], x[2], x[3]);
+    if constexpr (R <= 4) {
+#pragma GCC unroll 4
+        for (int i = 0; i < R; ++i) take(i);
+        if constexpr (R == 2) dft2(x[0], x[1]);
+        if constexpr (R == 4) dft4(x[0], x[1], x[2], x[3]);
     } else if constexpr (R == 8) {
-        dft4(x[0], x[2], x[4], x[6]);
-        dft4(x[1], x[3], x[5], x[7]);
+#pragma GCC unroll 2
+        for (int i = 0; i < 2; ++i) {
+            take(i), take(i + 4), take(i + 2), take(i + 6);
+            dft4(x[i], x[i + 2], x[i + 4], x[i + 6]);
+        }
         dft2(x[0], x[1]);
         dft2Turned<2>(x[2], x[3]);
         dft2Turned<4>(x[4], x[5]);
@@ -155,7 +160,10 @@ template <int R, class V>
     } else {
         static_assert(R == 16);
 #pragma GCC unroll 4
-        for (int i = 0; i < 4; ++i) dft4(x[i], x[i + 4], x[i + 8], x[i + 12]);
+        for (int i = 0; i < 4; ++i) {
+            take(i), take(i + 8), take(i + 4), take(i + 12);
+            dft4(x[i], x[i + 4], x[i + 8], x[i + 12]);
+        }
         dft4(x[0], x[1], x[2], x[3]);
         dft4Turned<1>(x[4], x[5], x[6], x[7]);
         dft4Turned<2>(x[8], x[9], x[10], x[11]);
@@ -166,6 +174,12 @@ template <int R, class V>
 #pragma GCC unroll 4
             for (int k = 0; k < i; ++k) std::swap(x[4 * i + k], x[4 * k + i]);
     }
+}
+
+template <int R, class V>
+[[gnu::always_inline]] inline void dft(Cx<V> (&x)[R])
+{
+    dft(x, [](int) {});
 }
 
 } // namespace zors::ZORS_VARIANT

@@ -39,15 +39,6 @@ constexpr std::ptrdiff_t columnFactors(int m)
     return (std::ptrdiff_t{1} << m) - (std::ptrdiff_t{1} << passes.levels(0));
 }
 
-// The order in which a butterfly takes its points: the even half before the odd one, in both the pairs that meet first.
-template <int R>
-constexpr int orderOfUse(int i)
-{
-    if (R < 8) return i;
-    const int half = i / (R / 2), inside = i % (R / 2);
-    return half + inside / 2 * 2 + inside % 2 * (R / 2);
-}
-
 template <int R, int W, bool First, class T, class In, class Out>
 [[gnu::always_inline]] inline void columnPass(In in, Out out, std::ptrdiff_t done, std::ptrdiff_t groups,
                                               const T* factors)
@@ -58,16 +49,13 @@ template <int R, int W, bool First, class T, class In, class Out>
         for (std::ptrdiff_t g = 0; g < groups; ++g) {
             const auto src = in.template from<R>(j * groups * R + g, inStride);
             Cx<V> x[R];
-#pragma GCC unroll 16
-            for (int i = 0; i < R; ++i) {
-                const int t = orderOfUse<R>(i);
+            dft(x, [&](int t) {
                 x[t] = src.get(t);
                 if constexpr (!First)
                     if (t > 0)
                         x[t] =
                             times(x[t], {constant<V>(factors[2 * t - 2]), constant<V>(factors[2 * t - 1])});
-            }
-            dft<R>(x);
+            });
             const auto dst = out.template from<R>(j * groups + g, outStride);
 #pragma GCC unroll 16
             for (int u = 0; u < R; ++u) dst.put(u, x[u]);

@@ -52,9 +52,7 @@ template <int W, int M, class T, class In, class Out>
     using V = Vec<T, W>;
     const auto src = in.template closeFrom<1>(0);
     Cx<V> x[M];
-#pragma GCC unroll 16
-    for (int t = 0; t < M; ++t) x[t] = src.get(t);
-    dft<M>(x);
+    dft(x, [&](int t) { x[t] = src.get(t); });
     const WholeTable<T, W> table(factors);
 #pragma GCC unroll 16
     for (int block = 0; block < M / W; ++block)
