@@ -9,13 +9,13 @@
 
 namespace zors::ZORS_VARIANT {
 
-// Radix 16 needs all of 32 registers for its points alone, so radix 8 is faster, with 16 and with 32. Measured. But
-// with 32 a first pass of 16, which has no factors, in the place of two of 4 saves a way through the data.
+// Radix 16 needs all of 32 registers for its points alone, so radix 8 is faster, with 16 and with 32. Measured. But a
+// first pass of 16, which has no factors, in the place of two of 4 saves a way through the data.
 inline constexpr int mostLevels = 3;
 
 constexpr bool beginsWith16(int m)
 {
-    return ZORS_VECTOR_BYTES == 64 && m > 2 * mostLevels && m % mostLevels == 1;
+    return m > 2 * mostLevels && m % mostLevels == 1;
 }
 
 // How the levels of an M-point column, M = 2^m, are divided among passes: evenly, the larger radices first.
@@ -72,8 +72,7 @@ template <int W, bool First, class T, class In, class Out>
     case 2:
         return columnPass<4, W, First>(in, out, done, groups, factors);
     case 4:
-        if constexpr (First && ZORS_VECTOR_BYTES == 64)
-            return columnPass<16, W, First>(in, out, done, groups, factors);
+        if constexpr (First) return columnPass<16, W, First>(in, out, done, groups, factors);
         break;
     default:
         return columnPass<8, W, First>(in, out, done, groups, factors);
