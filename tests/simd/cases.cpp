@@ -3,15 +3,16 @@
 #include "expect.h"
 
 #include <gtest/gtest.h>
+#include <string>
 
 namespace zors::test {
 namespace {
 
 using namespace ZORS_VARIANT;
 
-void report(const testing::Message& message, std::source_location where)
+void report(const testing::Message& message, Where where)
 {
-    ADD_FAILURE_AT(where.file_name(), static_cast<int>(where.line())) << message;
+    ADD_FAILURE_AT(where.file, where.line) << message;
 }
 
 std::string text(Places places)
@@ -64,15 +65,14 @@ TEST(Complex, LoadsAndStoresPairs)
 
 } // namespace
 
-void fail(Places places, std::source_location where)
+void fail(Places places, Where where)
 {
-    report(testing::Message() << where.function_name() << text(places), where);
+    report(testing::Message() << "does not hold" << text(places), where);
 }
 
-void failEqual(double got, double want, Places places, std::source_location where)
+void failEqual(double got, double want, Places places, Where where)
 {
-    report(testing::Message() << got << ", not " << want << ", " << where.function_name() << text(places),
-           where);
+    report(testing::Message() << got << ", not " << want << text(places), where);
 }
 
 } // namespace zors::test

@@ -4,18 +4,22 @@
 
 #include <cstddef>
 #include <initializer_list>
-#include <source_location>
+#include <type_traits>
 
 namespace zors::test {
 
 // Places in what is tested, for the message: a lane, a count.
 using Places = std::initializer_list<std::ptrdiff_t>;
 
-void fail(Places places, std::source_location where);
-void failEqual(double got, double want, Places places, std::source_location where);
+struct Where {
+    const char* file;
+    int line;
+};
 
-inline bool expect(bool holds, Places places = {},
-                   std::source_location where = std::source_location::current())
+void fail(Places places, Where where);
+void failEqual(double got, double want, Places places, Where where);
+
+inline bool expect(bool holds, Places places = {}, Where where = {__builtin_FILE(), __builtin_LINE()})
 {
     if (!holds) fail(places, where);
     return holds;
@@ -23,7 +27,7 @@ inline bool expect(bool holds, Places places = {},
 
 template <class T>
 void expectEqual(T got, std::type_identity_t<T> want, Places places = {},
-                 std::source_location where = std::source_location::current())
+                 Where where = {__builtin_FILE(), __builtin_LINE()})
 {
     if (got != want) failEqual(static_cast<double>(got), static_cast<double>(want), places, where);
 }
