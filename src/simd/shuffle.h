@@ -74,10 +74,10 @@ inline V reversed(V v)
     }
 }
 
-// Two blocks of 16 bytes a vector: no single instruction takes lanes of two vectors across blocks, as one does inside
-// them and another one whole blocks.
+// Vectors of two blocks of 16 bytes, on processors where no single instruction takes lanes of two vectors across
+// blocks, as one does inside them and another one whole blocks. Those with wider vectors have it.
 template <class V>
-inline constexpr bool hasTwoBlocks = sizeof(V) == 32 && sizeof(ElementOf<V>) >= 4;
+inline constexpr bool hasTwoBlocks = vectorBytes == 32 && sizeof(V) == 32 && sizeof(ElementOf<V>) >= 4;
 
 // The first blocks of a and b, and the second ones.
 template <class V>
