@@ -74,24 +74,46 @@ inline V reversed(V v)
     }
 }
 
+// Lanes in a block of 16 bytes.
+template <class V>
+inline constexpr int lanesOfBlock = 16 / static_cast<int>(sizeof(ElementOf<V>));
+
+// Of every two blocks of Size lanes in a and b: the first ones of both, and the second ones of both.
+template <int Size, class V>
+[[gnu::always_inline]] inline void exchangeBlocks(V& a, V& b)
+{
+    constexpr int n = lanesOf<V>;
+    struct First {
+        constexpr int operator()(int i) const { return i & Size ? i - Size + n : i; }
+    };
+    struct Second {
+        constexpr int operator()(int i) const { return i & Size ? i + n : i + Size; }
+    };
+    const V first = permute<First>(a, b);
+    b = permute<Second>(a, b);
+    a = first;
+}
+
+// In every 16 bytes, the lower or the upper lanes of a and b alternating.
+template <class V>
+[[gnu::always_inline]] inline void unpack(V& a, V& b)
+{
+    constexpr int n = lanesOf<V>, each = lanesOfBlock<V>;
+    struct Low {
+        constexpr int operator()(int i) const { return i / each * each + i % each / 2 + i % 2 * n; }
+    };
+    struct High {
+        constexpr int operator()(int i) const { return Low{}(i) + each / 2; }
+    };
+    const V low = permute<Low>(a, b);
+    b = permute<High>(a, b);
+    a = low;
+}
+
 // Vectors of two blocks of 16 bytes, on processors where no single instruction takes lanes of two vectors across
 // blocks, as one does inside them and another one whole blocks. Those with wider vectors have it.
 template <class V>
 inline constexpr bool hasTwoBlocks = vectorBytes == 32 && sizeof(V) == 32 && sizeof(ElementOf<V>) >= 4;
-
-// The first blocks of a and b, and the second ones.
-template <class V>
-inline Pair<V> blocksTogether(V a, V b)
-{
-    constexpr int half = lanesOf<V> / 2;
-    struct First {
-        constexpr int operator()(int i) const { return i < half ? i : i + half; }
-    };
-    struct Second {
-        constexpr int operator()(int i) const { return i < half ? i + half : i + 2 * half; }
-    };
-    return {permute<First>(a, b), permute<Second>(a, b)};
-}
 
 // a0 b0 a1 b1 ... in two vectors.
 template <class V>
@@ -99,16 +121,9 @@ inline Pair<V> interleave(V a, V b)
 {
     constexpr int n = lanesOf<V>;
     if constexpr (hasTwoBlocks<V>) {
-        struct LowInside {
-            constexpr int operator()(int i) const
-            {
-                return i / (n / 2) * (n / 2) + i % (n / 2) / 2 + i % 2 * n;
-            }
-        };
-        struct HighInside {
-            constexpr int operator()(int i) const { return LowInside{}(i) + n / 4; }
-        };
-        return blocksTogether(permute<LowInside>(a, b), permute<HighInside>(a, b));
+        unpack(a, b);
+        exchangeBlocks<lanesOfBlock<V>>(a, b);
+        return {a, b};
     }
     struct Low {
         constexpr int operator()(int i) const { return i / 2 + (i % 2) * n; }
@@ -136,19 +151,19 @@ template <class V>
 inline Pair<V> deinterleave(V a, V b)
 {
     if constexpr (hasTwoBlocks<V>) {
+        constexpr int each = lanesOfBlock<V>;
         struct EvenInside {
             constexpr int operator()(int i) const
             {
-                constexpr int n = lanesOf<V>, each = n / 2;
-                const int block = i / each, inside = 2 * (i % each);
-                return block * each + (inside < each ? inside : n + inside - each);
+                const int inside = 2 * (i % each);
+                return i / each * each + (inside < each ? inside : lanesOf<V> + inside - each);
             }
         };
         struct OddInside {
             constexpr int operator()(int i) const { return EvenInside{}(i) + 1; }
         };
-        const auto v = blocksTogether(a, b);
-        return {permute<EvenInside>(v.first, v.second), permute<OddInside>(v.first, v.second)};
+        exchangeBlocks<each>(a, b);
+        return {permute<EvenInside>(a, b), permute<OddInside>(a, b)};
     }
     struct Even {
         constexpr int operator()(int i) const { return 2 * i; }

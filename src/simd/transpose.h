@@ -5,44 +5,9 @@
 
 namespace zors::ZORS_VARIANT {
 
-// Lanes in 16 bytes, and such blocks in a vector.
-template <class V>
-inline constexpr int lanesOfBlock = 16 / static_cast<int>(sizeof(ElementOf<V>));
+// Blocks of 16 bytes in a vector.
 template <class V>
 inline constexpr int blocksOf = lanesOf<V> / lanesOfBlock<V>;
-
-// Of every two blocks of Size lanes in a and b: the first ones of both, and the second ones of both.
-template <int Size, class V>
-[[gnu::always_inline]] inline void exchangeBlocks(V& a, V& b)
-{
-    constexpr int n = lanesOf<V>;
-    struct First {
-        constexpr int operator()(int i) const { return i & Size ? i - Size + n : i; }
-    };
-    struct Second {
-        constexpr int operator()(int i) const { return i & Size ? i + n : i + Size; }
-    };
-    const V first = permute<First>(a, b);
-    b = permute<Second>(a, b);
-    a = first;
-}
-
-// In every 16 bytes, the lower or the upper lanes of a and b alternating.
-template <class V>
-[[gnu::always_inline]] inline void unpack(V& a, V& b)
-{
-    constexpr int n = lanesOf<V>;
-    constexpr int each = 16 / static_cast<int>(sizeof(ElementOf<V>));
-    struct Low {
-        constexpr int operator()(int i) const { return i / each * each + i % each / 2 + i % 2 * n; }
-    };
-    struct High {
-        constexpr int operator()(int i) const { return Low{}(i) + each / 2; }
-    };
-    const V low = permute<Low>(a, b);
-    b = permute<High>(a, b);
-    a = low;
-}
 
 // Blocks First and First + Step of a, then of b.
 template <int First, int Step, class V>

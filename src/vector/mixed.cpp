@@ -57,8 +57,8 @@ ZorStatus addProduct(const T* pSrc1, const T* pSrc2, T* pSrcDst, int len)
 {
     if (const ZorStatus bad = check(pointers(pSrc1, pSrc2, pSrcDst), length(len))) return bad;
     const auto a = elements(pSrc1), b = elements(pSrc2), c = elements(pSrcDst);
-    combine<Unscaled>([=](auto at) { return Multiply::unscaled<T>(a(at), b(at)); }, c, pSrcDst, len, true,
-                      [](auto product, auto old) { return old + product; });
+    combine([=](auto at) { return Multiply::unscaled<T>(a(at), b(at)); }, c, pSrcDst, len, true,
+            [](auto product, auto old) { return old + product; });
     return zorStsOk;
 }
 
@@ -176,8 +176,7 @@ ZorStatus mul32s32scInPlace(const Zor32s* pSrc, Zor32sc* pSrcDst, int len, int s
 ZorStatus mul32f32fc(const Zor32f* pSrc1, const Zor32fc* pSrc2, Zor32fc* pDst, int len)
 {
     if (const ZorStatus bad = check(pointers(pSrc1, pSrc2, pDst), length(len))) return bad;
-    combine<Unscaled>(twice(pSrc1), elements(pSrc2), pDst, len, pDst == pSrc2,
-                      [](auto a, auto b) { return a * b; });
+    combine(twice(pSrc1), elements(pSrc2), pDst, len, pDst == pSrc2, [](auto a, auto b) { return a * b; });
     return zorStsOk;
 }
 

@@ -26,7 +26,7 @@ auto constant(T value)
 }
 
 // Stores operation(a, b) for all places; in place where the destination is a source.
-template <class Case, class T, class A, class B, class Operation>
+template <class Case = void, class T, class A, class B, class Operation>
 [[gnu::always_inline]] inline void combine(A a, B b, T* pDst, int len, bool inPlace, Operation operation)
 {
     using L = Lane<T>;

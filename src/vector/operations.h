@@ -89,8 +89,7 @@ struct Multiply {
 template <class Operation, class T, class A, class B>
 inline void operate(A a, B b, T* pDst, int len, bool inPlace)
 {
-    combine<Unscaled>(a, b, pDst, len, inPlace,
-                      [](auto x, auto y) { return Operation::template unscaled<T>(x, y); });
+    combine(a, b, pDst, len, inPlace, [](auto x, auto y) { return Operation::template unscaled<T>(x, y); });
 }
 
 template <class Operation, class T, class A, class B>
@@ -99,8 +98,7 @@ inline void operate(A a, B b, T* pDst, int len, bool inPlace, int scaleFactor)
     if constexpr (std::is_same_v<Operation, Multiply> && std::is_same_v<T, Zor16s>) {
         // Fractional numbers are worth a kernel of their own.
         if (scaleFactor == 15)
-            return combine<Down>(a, b, pDst, len, inPlace,
-                                 [](auto x, auto y) { return fractionalProducts(x, y); });
+            return combine(a, b, pDst, len, inPlace, [](auto x, auto y) { return fractionalProducts(x, y); });
     }
     const auto zeroAbove = Operation::template zeroAbove<T>;
     withScale(scaleFactor, zeroAbove, asLanes(pDst), laneCount<T>(len), [=](auto scale) {

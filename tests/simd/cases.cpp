@@ -1,14 +1,19 @@
 #include "cases.h"
 
-#include "expect.h"
-
 #include <gtest/gtest.h>
 #include <string>
 
 namespace zors::test {
 namespace {
 
-using namespace ZORS_VARIANT;
+class Test : public testing::Test {
+public:
+    explicit Test(void (*run)()) : run_(run) {}
+    void TestBody() override { run_(); }
+
+private:
+    void (*run_)();
+};
 
 void report(const testing::Message& message, Where where)
 {
@@ -22,48 +27,13 @@ std::string text(Places places)
     return all;
 }
 
-TEST(Loop, BlocksCoverEachElementOnce)
-{
-    blocksCoverEachElementOnce();
-}
-TEST(Loop, BlocksIntoStreamLongDestinations)
-{
-    blocksIntoStreamLongDestinations();
-}
-TEST(Loop, BlocksIntoStreamOnlyWhatReachesAlignedAddresses)
-{
-    blocksIntoStreamOnlyWhatReachesAlignedAddresses();
-}
-TEST(Loop, PlacesLoadAndStoreWhatTheyCover)
-{
-    placesLoadAndStoreWhatTheyCover();
-}
-TEST(Memory, PartsTouchTheirLanesAndNoOthers)
-{
-    partsTouchTheirLanesAndNoOthers();
-}
-TEST(Memory, StreamingStoresAVector)
-{
-    streamingStoresAVector();
-}
-TEST(Shuffle, PermutesInterleavesAndSwaps)
-{
-    permutesInterleavesAndSwaps();
-}
-TEST(Shuffle, ReversesElementsOfEverySize)
-{
-    reversesElementsOfEverySize();
-}
-TEST(Bytes24, LoadsAndStoresThreeBytesALane)
-{
-    loadsAndStoresThreeBytesALane();
-}
-TEST(Complex, LoadsAndStoresPairs)
-{
-    loadsAndStoresPairs();
-}
-
 } // namespace
+
+Case::Case(const char* suite, const char* name, void (*run)(), Where where)
+{
+    const auto make = [=]() -> testing::Test* { return new Test(run); };
+    testing::RegisterTest(suite, name, nullptr, nullptr, where.file, where.line, make);
+}
 
 void fail(Places places, Where where)
 {

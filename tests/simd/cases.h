@@ -1,19 +1,46 @@
-// The tests that are compiled for a variant.
+// Tests and assertions in code that is compiled for a variant. They lead out of it at once: GoogleTest's own would
+// be compiled for every processor again, and with them half of what a test takes to build.
 #pragma once
 
-namespace zors::ZORS_VARIANT {
+#include <cstddef>
+#include <initializer_list>
+#include <type_traits>
 
-void blocksCoverEachElementOnce();
-void blocksIntoStreamLongDestinations();
-void blocksIntoStreamOnlyWhatReachesAlignedAddresses();
-void placesLoadAndStoreWhatTheyCover();
+namespace zors::test {
 
-void partsTouchTheirLanesAndNoOthers();
-void streamingStoresAVector();
+// Places in what is tested, for the message: a lane, a count.
+using Places = std::initializer_list<std::ptrdiff_t>;
 
-void permutesInterleavesAndSwaps();
-void reversesElementsOfEverySize();
-void loadsAndStoresThreeBytesALane();
-void loadsAndStoresPairs();
+struct Where {
+    const char* file;
+    int line;
+};
 
-} // namespace zors::ZORS_VARIANT
+// Makes run() a test of GoogleTest, to be called before main.
+struct Case {
+    Case(const char* suite, const char* name, void (*run)(),
+         Where where = {__builtin_FILE(), __builtin_LINE()});
+};
+
+void fail(Places places, Where where);
+void failEqual(double got, double want, Places places, Where where);
+
+inline bool expect(bool holds, Places places = {}, Where where = {__builtin_FILE(), __builtin_LINE()})
+{
+    if (!holds) fail(places, where);
+    return holds;
+}
+
+template <class T>
+void expectEqual(T got, std::type_identity_t<T> want, Places places = {},
+                 Where where = {__builtin_FILE(), __builtin_LINE()})
+{
+    if (got != want) failEqual(static_cast<double>(got), static_cast<double>(want), places, where);
+}
+
+} // namespace zors::test
+
+#define ZORS_CASE(suite, name)                                                                               \
+    static void suite##name();                                                                               \
+    static const test::Case suite##name##Case(#suite, #name, suite##name);                                   \
+    static void suite##name()

@@ -1,13 +1,13 @@
 #include "simd/loop.h"
 
 #include "cases.h"
-#include "expect.h"
 #include "support/random.h"
 
 #include <algorithm>
 #include <vector>
 
 namespace zors::ZORS_VARIANT {
+namespace {
 
 using test::expect;
 using test::expectEqual;
@@ -47,7 +47,7 @@ void expectBlocks()
     }
 }
 
-void blocksCoverEachElementOnce()
+ZORS_CASE(Loop, BlocksCoverEachElementOnce)
 {
     expectBlocks<lanes<std::uint8_t>>();
     expectBlocks<lanes<std::uint16_t>>();
@@ -92,7 +92,7 @@ void expectStreamed()
     }
 }
 
-void blocksIntoStreamLongDestinations()
+ZORS_CASE(Loop, BlocksIntoStreamLongDestinations)
 {
     static_assert(streamedBytes <= test::longBytes, "no test of a public function would be streamed");
     for (std::ptrdiff_t len = 0; len < 300; ++len)
@@ -101,7 +101,7 @@ void blocksIntoStreamLongDestinations()
     expectStreamed<std::uint64_t>();
 }
 
-void blocksIntoStreamOnlyWhatReachesAlignedAddresses()
+ZORS_CASE(Loop, BlocksIntoStreamOnlyWhatReachesAlignedAddresses)
 {
     constexpr int n = lanes<float>;
     constexpr std::ptrdiff_t len = streamedBytes / 4 + 1;
@@ -114,7 +114,7 @@ void blocksIntoStreamOnlyWhatReachesAlignedAddresses()
     expect(streamedSteps<n>(len, placeAt<float>(4), placeAt<float>(4 + vectorBytes)) > 0);
 }
 
-void placesLoadAndStoreWhatTheyCover()
+ZORS_CASE(Loop, PlacesLoadAndStoreWhatTheyCover)
 {
     constexpr int n = lanes<std::int32_t>;
     alignas(64) std::int32_t src[3 * n], dst[3 * n];
@@ -125,4 +125,5 @@ void placesLoadAndStoreWhatTheyCover()
     for (int i = 0; i < 3 * n; ++i) expectEqual(dst[i], i < 3 * n - 1 ? i + 1 : -1, {i});
 }
 
+} // namespace
 } // namespace zors::ZORS_VARIANT

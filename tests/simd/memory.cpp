@@ -1,10 +1,10 @@
 #include "simd/memory.h"
 
 #include "cases.h"
-#include "expect.h"
 #include "support/random.h"
 
 namespace zors::ZORS_VARIANT {
+namespace {
 
 using test::expect;
 using test::expectEqual;
@@ -43,7 +43,7 @@ void expectParts()
     if constexpr (N > 2 && sizeof(T) < 8) expectParts<T, N / 2>();
 }
 
-void partsTouchTheirLanesAndNoOthers()
+ZORS_CASE(Memory, PartsTouchTheirLanesAndNoOthers)
 {
     expectParts<std::uint8_t, lanes<std::uint8_t>>();
     expectParts<std::int16_t, lanes<std::int16_t>>();
@@ -51,7 +51,7 @@ void partsTouchTheirLanesAndNoOthers()
     expectParts<std::uint64_t, lanes<std::uint64_t>>();
 }
 
-void streamingStoresAVector()
+ZORS_CASE(Memory, StreamingStoresAVector)
 {
     Random random;
     RandomVector<std::uint16_t> got(lanes<std::uint16_t>, 0, random), want = got;
@@ -62,4 +62,5 @@ void streamingStoresAVector()
     expect(got == want);
 }
 
+} // namespace
 } // namespace zors::ZORS_VARIANT

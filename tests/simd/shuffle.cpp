@@ -2,10 +2,10 @@
 #include "simd/complex.h"
 
 #include "cases.h"
-#include "expect.h"
 #include "support/random.h"
 
 namespace zors::ZORS_VARIANT {
+namespace {
 
 using test::expect;
 using test::expectEqual;
@@ -47,7 +47,7 @@ void expectShuffles()
         expectEqual(swapped[i], bitsAs<std::uint8_t>(a)[i / size * size + size - 1 - i % size], {i, size});
 }
 
-void permutesInterleavesAndSwaps()
+ZORS_CASE(Shuffle, PermutesInterleavesAndSwaps)
 {
     expectShuffles<std::uint16_t>();
     expectShuffles<std::uint32_t>();
@@ -64,7 +64,7 @@ void expectReversed()
         expectEqual(to[i], from[vectorBytes - Size - i / Size * Size + i % Size], {i, Size});
 }
 
-void reversesElementsOfEverySize()
+ZORS_CASE(Shuffle, ReversesElementsOfEverySize)
 {
     expectReversed<1, std::uint8_t>();
     expectReversed<2, std::uint16_t>();
@@ -90,7 +90,7 @@ void expect24(At at, int count)
     expect(got == want, {count});
 }
 
-void loadsAndStoresThreeBytesALane()
+ZORS_CASE(Bytes24, LoadsAndStoresThreeBytesALane)
 {
     expect24(Whole<lanes24>{1}, lanes24);
     for (int count = 1; count < lanes24; ++count) expect24(Part<lanes24>{1, count}, count);
@@ -112,7 +112,7 @@ void expectPairs(At at, int count)
     }
 }
 
-void loadsAndStoresPairs()
+ZORS_CASE(Complex, LoadsAndStoresPairs)
 {
     constexpr int n = lanes<float>;
     expectPairs(Whole<n>{1}, n);
@@ -120,4 +120,5 @@ void loadsAndStoresPairs()
     for (int count = 1; count < n; ++count) expectPairs(Part<n>{1, count}, count);
 }
 
+} // namespace
 } // namespace zors::ZORS_VARIANT
