@@ -174,14 +174,20 @@ inline Pair<V> deinterleave(V a, V b)
     return {permute<Even>(a, b), permute<Odd>(a, b)};
 }
 
-template <class V>
-inline Vec<ElementOf<V>, lanesOf<V> / 2> firstHalf(V v)
+template <int N, class V>
+inline Vec<ElementOf<V>, N> firstLanes(V v)
 {
     return [=]<int... I>(std::integer_sequence<int, I...>)
     {
         return __builtin_shufflevector(v, v, I...);
     }
-    (std::make_integer_sequence<int, lanesOf<V> / 2>{});
+    (std::make_integer_sequence<int, N>{});
+}
+
+template <class V>
+inline auto firstHalf(V v)
+{
+    return firstLanes<lanesOf<V> / 2>(v);
 }
 
 // A shorter vector over and over.

@@ -26,9 +26,9 @@ template <class T>
 using Lane = typename LaneOf<T>::type;
 
 template <class T>
-inline std::ptrdiff_t laneCount(int len)
+inline std::ptrdiff_t laneCount(std::ptrdiff_t len)
 {
-    return std::ptrdiff_t{len} * LaneOf<T>::each;
+    return len * LaneOf<T>::each;
 }
 
 template <class T>

@@ -85,20 +85,25 @@ struct Multiply {
     }
 };
 
-// The loop over all elements, without a scale factor and with one.
+// The loop over all elements.
 template <class Operation, class T, class A, class B>
-inline void operate(A a, B b, T* pDst, int len, bool inPlace)
+inline ZorStatus operate(A a, B b, T* pDst, int len, bool inPlace)
 {
     combine(a, b, pDst, len, inPlace, [](auto x, auto y) { return Operation::template unscaled<T>(x, y); });
+    return zorStsOk;
 }
 
+// The same with a scale factor. Out of line, as types share it.
 template <class Operation, class T, class A, class B>
-inline void operate(A a, B b, T* pDst, int len, bool inPlace, int scaleFactor)
+[[gnu::noinline]] ZorStatus operateScaled(A a, B b, T* pDst, std::ptrdiff_t len, bool inPlace,
+                                          int scaleFactor)
 {
     if constexpr (std::is_same_v<Operation, Multiply> && std::is_same_v<T, Zor16s>) {
         // Fractional numbers are worth a kernel of their own.
-        if (scaleFactor == 15)
-            return combine(a, b, pDst, len, inPlace, [](auto x, auto y) { return fractionalProducts(x, y); });
+        if (scaleFactor == 15) {
+            combine(a, b, pDst, len, inPlace, [](auto x, auto y) { return fractionalProducts(x, y); });
+            return zorStsOk;
+        }
     }
     const auto zeroAbove = Operation::template zeroAbove<T>;
     withScale(scaleFactor, zeroAbove, asLanes(pDst), laneCount<T>(len), [=](auto scale) {
@@ -109,6 +114,17 @@ inline void operate(A a, B b, T* pDst, int len, bool inPlace, int scaleFactor)
                 return scaled<Lane<T>>(Operation::template exact<T>(x, y), scale);
         });
     });
+    return zorStsOk;
+}
+
+// Sums and differences of complex numbers are those of their parts.
+template <class Operation, class T, class A, class B>
+inline ZorStatus operate(A a, B b, T* pDst, int len, bool inPlace, int scaleFactor)
+{
+    if constexpr (std::is_same_v<Operation, Multiply>)
+        return operateScaled<Operation>(a, b, pDst, len, inPlace, scaleFactor);
+    else
+        return operateScaled<Operation>(a, b, asLanes(pDst), laneCount<T>(len), inPlace, scaleFactor);
 }
 
 } // namespace zors::ZORS_VARIANT

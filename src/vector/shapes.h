@@ -12,8 +12,7 @@ ZorStatus twoSources(const T* pSrc1, const T* pSrc2, T* pDst, int len, ScaleFact
 {
     if (const ZorStatus bad = check(pointers(pSrc1, pSrc2, pDst), length(len))) return bad;
     const bool inPlace = pDst == pSrc1 || pDst == pSrc2;
-    operate<Operation>(elements(pSrc1), elements(pSrc2), pDst, len, inPlace, scaleFactor...);
-    return zorStsOk;
+    return operate<Operation>(elements(pSrc1), elements(pSrc2), pDst, len, inPlace, scaleFactor...);
 }
 
 template <class Operation, class T, class... ScaleFactor>
@@ -42,8 +41,7 @@ template <class Operation, class T, class... ScaleFactor>
 ZorStatus sourceWithConstant(const T* pSrc, T val, T* pDst, int len, ScaleFactor... scaleFactor)
 {
     if (const ZorStatus bad = check(pointers(pSrc, pDst), length(len))) return bad;
-    operate<Operation>(elements(pSrc), constant(val), pDst, len, pDst == pSrc, scaleFactor...);
-    return zorStsOk;
+    return operate<Operation>(elements(pSrc), constant(val), pDst, len, pDst == pSrc, scaleFactor...);
 }
 
 template <class Operation, class T, class... ScaleFactor>
@@ -56,8 +54,7 @@ template <class Operation, class T, class... ScaleFactor>
 ZorStatus constantWithSource(const T* pSrc, T val, T* pDst, int len, ScaleFactor... scaleFactor)
 {
     if (const ZorStatus bad = check(pointers(pSrc, pDst), length(len))) return bad;
-    operate<Operation>(constant(val), elements(pSrc), pDst, len, pDst == pSrc, scaleFactor...);
-    return zorStsOk;
+    return operate<Operation>(constant(val), elements(pSrc), pDst, len, pDst == pSrc, scaleFactor...);
 }
 
 template <class Operation, class T, class... ScaleFactor>
