@@ -175,7 +175,7 @@ inline Pair<V> deinterleave(V a, V b)
 }
 
 template <int N, class V>
-inline Vec<ElementOf<V>, N> firstLanes(V v)
+inline Vec<ElementOf<V>, N> leading(V v)
 {
     return [=]<int... I>(std::integer_sequence<int, I...>)
     {
@@ -187,7 +187,7 @@ inline Vec<ElementOf<V>, N> firstLanes(V v)
 template <class V>
 inline auto firstHalf(V v)
 {
-    return firstLanes<lanesOf<V> / 2>(v);
+    return leading<lanesOf<V> / 2>(v);
 }
 
 // A shorter vector over and over.

@@ -27,7 +27,7 @@ struct Constant {
     template <class At>
     auto operator()(At) const
     {
-        return firstLanes<At::lanes>(v);
+        return leading<At::lanes>(v);
     }
 };
 

@@ -11,6 +11,23 @@ using test::expectEqual;
 using test::Random;
 using test::RandomVector;
 
+// count lanes of v, from the first-th on, are the elements at p, and the others are 0.
+template <class T, int N>
+void expectLanes(Vec<T, N> v, const T* p, int first, int count)
+{
+    T want[N] = {};
+    std::memcpy(want + first, p, static_cast<std::size_t>(count) * sizeof(T));
+    expect(std::memcmp(&v, want, sizeof want) == 0, {first, count, N, sizeof(T)});
+}
+
+// Only the first count elements have changed, to those at p.
+template <class T>
+void expectStored(const RandomVector<T>& stored, RandomVector<T> before, const T* p, int count)
+{
+    std::memcpy(before.data(), p, static_cast<std::size_t>(count) * sizeof(T));
+    expect(stored == before, {count, sizeof(T)});
+}
+
 // Every part of a vector of N lanes, from the front and from the back, at an address aligned to a lane only.
 template <class T, int N>
 void expectParts()
@@ -19,25 +36,19 @@ void expectParts()
     for (int count = 0; count <= N; ++count) {
         const RandomVector<T> memory(N, 1, random);
         const T* p = memory.data();
-        const auto whole = load<N>(p), first = loadFirst<N>(p, count), last = loadLast<N>(p, count);
-        RandomVector<T> stored(N, 3, random), wanted = stored;
-        store<N>(stored.data(), whole);
-        std::memcpy(wanted.data(), p, N * sizeof(T));
-        expect(stored == wanted);
-        for (int i = 0; i < N; ++i) {
-            expectEqual(whole[i], p[i], {i});
-            expectEqual(first[i], i < count ? p[i] : T{}, {i, count});
-            expectEqual(last[i], i >= N - count ? p[i - (N - count)] : T{}, {i, count});
-        }
+        const auto whole = load<N>(p);
+        expectLanes<T, N>(whole, p, 0, N);
+        expectLanes<T, N>(loadFirst<N>(p, count), p, 0, count);
+        expectLanes<T, N>(loadLast<N>(p, count), p, N - count, count);
 
-        RandomVector<T> front(N, 1, random), back(N, 1, random), wantFront = front, wantBack = back;
+        const RandomVector<T> before(N, 1, random);
+        RandomVector<T> stored = before, front = before, back = before;
+        store<N>(stored.data(), whole);
         storeFirst<N>(front.data(), whole, count);
         storeLast<N>(back.data(), whole, count);
-        const std::size_t bytes = static_cast<std::size_t>(count) * sizeof(T);
-        std::memcpy(wantFront.data(), p, bytes);
-        std::memcpy(wantBack.data(), p + N - count, bytes);
-        expect(front == wantFront, {count, N, sizeof(T)});
-        expect(back == wantBack, {count, N, sizeof(T)});
+        expectStored(stored, before, p, N);
+        expectStored(front, before, p, count);
+        expectStored(back, before, p + N - count, count);
     }
     // Lanes of 8 bytes fill a register or, narrower, do not occur.
     if constexpr (N > 2 && sizeof(T) < 8) expectParts<T, N / 2>();

@@ -50,31 +50,15 @@ T element(Random& random)
 // Bytes that begin so many past a 64-byte boundary, between other random bytes.
 class RandomBytes {
 public:
-    RandomBytes(std::ptrdiff_t count, std::ptrdiff_t offset, Random& random)
-        : offset_(offset), lines_(static_cast<std::size_t>(3 + (offset + count) / 64))
-    {
-        for (Line& line : lines_)
-            for (std::size_t at = 0; at < sizeof line; at += 8) {
-                const std::uint64_t bits = random();
-                std::memcpy(line.bytes + at, &bits, sizeof bits);
-            }
-    }
+    RandomBytes(std::ptrdiff_t count, std::ptrdiff_t offset, Random& random);
 
     std::byte* first() { return lines_[1].bytes + offset_; }
     const std::byte* first() const { return lines_[1].bytes + offset_; }
 
-    bool operator==(const RandomBytes& other) const
-    {
-        return std::memcmp(lines_.data(), other.lines_.data(), lines_.size() * sizeof(Line)) == 0;
-    }
+    bool operator==(const RandomBytes& other) const;
 
     // Where two of them, or what surrounds them, first differ, in bytes from the first one.
-    std::ptrdiff_t firstDifference(const RandomBytes& other) const
-    {
-        std::ptrdiff_t at = -64 - offset_;
-        while (first()[at] == other.first()[at]) ++at;
-        return at;
-    }
+    std::ptrdiff_t firstDifference(const RandomBytes& other) const;
 
 private:
     struct alignas(64) Line {
