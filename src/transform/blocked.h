@@ -122,13 +122,11 @@ inline void blockedTransform(int order, const Arrays& io, Sink sink, T* memory, 
     const BlockedWork<T, w> work{d, memory};
     const Rows<T, w> one = work.block(0), other = work.block(1);
     for (std::ptrdiff_t n = 0; n < d.columns(); n += w) {
-        columns<w>(d.first, io.template source<w>(d.columns(), n), one, other, one,
-                   factors + 2 * at.firstColumns);
+        columns<w>(d.first, io.template source<w>(d.columns(), n), other, one, factors + 2 * at.firstColumns);
         turnIntoPanels<w>(one, work, n, factors);
     }
     for (std::ptrdiff_t b = 0; b < d.rows() / w; ++b) {
-        const Rows<T, w> panel = work.panel(b);
-        columns<w>(d.second, panel, sink(b * w), one, panel, factors + 2 * at.secondColumns);
+        columns<w>(d.second, work.panel(b), one, sink(b * w), factors + 2 * at.secondColumns);
     }
 }
 

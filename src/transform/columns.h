@@ -39,54 +39,74 @@ constexpr std::ptrdiff_t columnFactors(int m)
     return (std::ptrdiff_t{1} << m) - (std::ptrdiff_t{1} << passes.levels(0));
 }
 
+// Where butterflies find their points or leave them, in rows: from the first butterfly, from one to the next, and from
+// point to point.
+struct Places {
+    std::ptrdiff_t first, apart, stride;
+};
+
 template <int R, int W, bool First, class T, class In, class Out>
-[[gnu::always_inline]] inline void columnPass(In in, Out out, std::ptrdiff_t done, std::ptrdiff_t groups,
-                                              const T* factors)
+[[gnu::always_inline]] inline void butterflies(In in, Places from, Out out, Places to, std::ptrdiff_t count,
+                                               const T* factors, std::ptrdiff_t factorSets)
 {
     using V = Vec<T, W>;
-    const Stride inStride = in.stride(groups), outStride = out.stride(done * groups);
-    for (std::ptrdiff_t j = 0; j < done; ++j, factors += 2 * (R - 1)) {
-        for (std::ptrdiff_t g = 0; g < groups; ++g) {
-            const auto src = in.template from<R>(j * groups * R + g, inStride);
-            Cx<V> x[R];
-            dft(x, [&](int t) {
-                x[t] = src.get(t);
-                if constexpr (!First)
-                    if (t > 0)
-                        x[t] =
-                            times(x[t], {constant<V>(factors[2 * t - 2]), constant<V>(factors[2 * t - 1])});
-            });
-            const auto dst = out.template from<R>(j * groups + g, outStride);
+    const Stride inStride = in.stride(from.stride), outStride = out.stride(to.stride);
+    for (std::ptrdiff_t i = 0; i < count; ++i) {
+        const auto src = in.template from<R>(from.first + i * from.apart, inStride);
+        Cx<V> x[R];
+        dft(x, [&](int t) {
+            x[t] = src.get(t);
+            if constexpr (!First)
+                if (t > 0)
+                    x[t] = times(x[t], {constant<V>(factors[2 * t - 2]), constant<V>(factors[2 * t - 1])});
+        });
+        const auto dst = out.template from<R>(to.first + i * to.apart, outStride);
 #pragma GCC unroll 16
-            for (int u = 0; u < R; ++u) dst.put(u, x[u]);
-        }
+        for (int u = 0; u < R; ++u) dst.put(u, x[u]);
+        factors += 2 * (R - 1) * factorSets;
     }
 }
 
-// One pass of 2^levels; kept out of line, so that each exists once for its ports.
-template <int W, bool First, class T, class In, class Out>
-[[gnu::noinline]] void pass(int levels, In in, Out out, std::ptrdiff_t done, std::ptrdiff_t groups,
+// Butterflies of 2^levels points, with a set of factors each; kept out of line, so that they exist once for their
+// ports.
+template <int W, class T, class In, class Out>
+[[gnu::noinline]] void pass(int levels, In in, Places from, Out out, Places to, std::ptrdiff_t count,
                             const T* factors)
 {
+    if (levels == 2)
+        butterflies<4, W, false>(in, from, out, to, count, factors, 1);
+    else
+        butterflies<8, W, false>(in, from, out, to, count, factors, 1);
+}
+
+// The first pass, without factors, over columns of 2^levels groups rows.
+template <int W, class T, class In, class Out>
+[[gnu::noinline]] void firstPass(int levels, In in, Out out, std::ptrdiff_t groups)
+{
+    const Places places{0, 1, groups};
+    const T* const none = nullptr;
     switch (levels) {
     case 2:
-        return columnPass<4, W, First>(in, out, done, groups, factors);
+        return butterflies<4, W, true>(in, places, out, places, groups, none, 0);
     case 4:
-        if constexpr (First) return columnPass<16, W, First>(in, out, done, groups, factors);
-        break;
+        return butterflies<16, W, true>(in, places, out, places, groups, none, 0);
     default:
-        return columnPass<8, W, First>(in, out, done, groups, factors);
+        return butterflies<8, W, true>(in, places, out, places, groups, none, 0);
     }
 }
 
 // Where a transform stands between two passes.
+//
+// The first two passes put their points into order. The later ones leave theirs where they find them, which takes
+// fewer lines through the caches; so from there on the rows j of the first two passes' points are apart rows from one
+// another, and the points run by run: run q are the points together q + j.
 template <class T>
 struct Progress {
     Passes passes;
     std::ptrdiff_t groups; // rows over the product of the radices so far
     const T* factors;
     int pass = 0;
-    std::ptrdiff_t done = 1;
+    std::ptrdiff_t done = 1, together = 1, apart = 0;
 
     Progress(int m, const T* f) : passes{m}, groups(std::ptrdiff_t{1} << m), factors(f) {}
     bool isLast() const { return pass == passes.count - 1; }
@@ -97,54 +117,80 @@ struct Progress {
         done <<= levels();
         groups >>= levels();
         ++pass;
+        if (pass <= 2) together = done, apart = groups;
     }
+    // The first of the rows of point k of all that are done.
+    std::ptrdiff_t rowOf(std::ptrdiff_t k) const
+    {
+        std::ptrdiff_t row = (k & (together - 1)) * apart, distance = apart;
+        int below = passes.levels(0) + passes.levels(1);
+        for (int p = 2; p < pass; ++p) {
+            const int levels = passes.levels(p);
+            distance >>= levels;
+            row += (k >> below & ((1 << levels) - 1)) * distance;
+            below += levels;
+        }
+        return row;
+    }
+    const T* factorsOf(std::ptrdiff_t k) const { return factors + 2 * k * ((1 << levels()) - 1); }
 };
 
+// Both passes of two.
+template <int W, class T, class In, class Between, class Out>
+inline void twoPasses(int m, In in, Between between, Out out, const T* factors)
+{
+    const Passes passes{m};
+    const std::ptrdiff_t first = std::ptrdiff_t{1} << passes.levels(0),
+                         second = std::ptrdiff_t{1} << passes.levels(1);
+    firstPass<W, T>(passes.levels(0), in, between, second);
+    pass<W>(passes.levels(1), between, {0, second, 1}, out, {0, 1, first}, first, factors);
+}
+
 // The first two passes at once, by the rows that depend on one another: every n-th, few enough for the first cache.
-template <int W, class T, class In, class Out>
-inline void firstTwoPasses(Progress<T>& at, In in, Out out)
+template <int W, class T, class In>
+inline void firstTwoPasses(Progress<T>& at, In in, Rows<T, W> out)
 {
     alignas(lineBytes) T memory[2 * W << (2 * mostLevels + 1)];
     const Rows<T, W> few{memory};
-    const int first = at.levels(), second = at.passes.levels(1);
+    const int both = at.levels() + at.passes.levels(1);
     const T* factors = at.factors;
     at.step();
     at.step();
-    for (std::ptrdiff_t g = 0; g < at.groups; ++g) {
-        pass<W, true>(first, in.every(at.groups, g), few, 1, std::ptrdiff_t{1} << second, factors);
-        pass<W, false>(second, few, out.every(at.groups, g), std::ptrdiff_t{1} << first, 1, factors);
-    }
+    for (std::ptrdiff_t g = 0; g < at.groups; ++g)
+        twoPasses<W>(both, in.every(at.groups, g), few, out.every(at.groups, g), factors);
 }
 
-// All passes but the last, of three or more; the result is in a. What lies between takes turns in a and b, either
-// of which may be where the input is.
-template <int W, class T, class In, class A, class B>
-inline void allButLast(Progress<T>& at, In in, A a, B b)
+// A pass between the first two and the last one, which alone may be of a smaller radix.
+template <int W, class T>
+[[gnu::noinline]] void passInPlace(const Progress<T>& at, Rows<T, W> own)
 {
-    if (at.passes.count % 2 == 1)
-        firstTwoPasses<W>(at, in, a);
-    else
-        firstTwoPasses<W>(at, in, b);
-    for (; !at.isLast(); at.step()) {
-        if ((at.passes.count - at.pass) % 2 == 0)
-            pass<W, false>(at.levels(), b, a, at.done, at.groups >> at.levels(), at.factors);
-        else
-            pass<W, false>(at.levels(), a, b, at.done, at.groups >> at.levels(), at.factors);
-    }
+    constexpr int radix = 1 << mostLevels;
+    const std::ptrdiff_t groups = at.groups / radix;
+    for (std::ptrdiff_t j = 0; j < at.together; ++j)
+        for (std::ptrdiff_t k = j; k < at.done; k += at.together) {
+            const Places places{at.rowOf(k), 1, groups};
+            butterflies<radix, W, false>(own, places, own, places, groups, at.factorsOf(k), 0);
+        }
 }
 
-// All passes, two or more.
-template <int W, class T, class In, class Out, class A, class B>
-inline void columns(int m, In in, Out out, A a, B b, const T* factors)
+// All passes but the last, of three or more; their rows are left in own.
+template <int W, class T, class In>
+inline void allButLast(Progress<T>& at, In in, Rows<T, W> own)
+{
+    firstTwoPasses<W>(at, in, own);
+    for (; !at.isLast(); at.step()) passInPlace<W>(at, own);
+}
+
+// All passes, two or more, by way of own, which may be where the input is, but not where the result goes.
+template <int W, class T, class In, class Out>
+inline void columns(int m, In in, Rows<T, W> own, Out out, const T* factors)
 {
     Progress<T> at(m, factors);
-    if (at.passes.count == 2) {
-        pass<W, true>(at.levels(), in, a, 1, at.groups >> at.levels(), factors);
-        at.step();
-    } else {
-        allButLast<W>(at, in, a, b);
-    }
-    pass<W, false>(at.levels(), a, out, at.done, 1, at.factors);
+    if (at.passes.count == 2) return twoPasses<W>(m, in, own, out, factors);
+    allButLast<W>(at, in, own);
+    for (std::ptrdiff_t k = 0; k < at.done; k += at.together)
+        pass<W>(at.levels(), own, {at.rowOf(k), at.apart, 1}, out, {k, 1, at.done}, at.together,
+                at.factorsOf(k));
 }
 
 } // namespace zors::ZORS_VARIANT

@@ -23,17 +23,18 @@ constexpr int log2Of(int powerOfTwo)
     return log;
 }
 
-// The last pass over columns and the turn at once, by the rows that depend on one another.
+// The last pass over columns and the turn at once, by the rows that depend on one another; with narrow vectors more of
+// them, as a call costs as much as a butterfly.
 template <int W, class T, class Out>
 inline void lastPassAndTurn(const Progress<T>& at, Rows<T, W> in, Out out, const T* factors)
 {
-    alignas(lineBytes) T memory[2 * W * W << mostLevels];
-    const Rows<T, W> few{memory};
-    const std::ptrdiff_t radix = std::ptrdiff_t{1} << at.levels(), step = at.done / W;
-    for (std::ptrdiff_t block = 0; block < step; ++block) {
-        const std::ptrdiff_t j = block * W;
-        pass<W, false>(at.levels(), in.every(1, j * radix), few, W, 1, at.factors + 2 * j * (radix - 1));
-        turn<W>(few, out, step * radix, block, step, factors);
+    constexpr int few = W < 8 ? 8 / W : 1, count = few * W;
+    alignas(lineBytes) T memory[2 * W * count << mostLevels];
+    const Rows<T, W> rows{memory};
+    const std::ptrdiff_t blocks = at.done / W, all = blocks << at.levels();
+    for (std::ptrdiff_t k = 0; k < at.done; k += count) {
+        pass<W>(at.levels(), in, {at.rowOf(k), at.apart, 1}, rows, {0, 1, count}, count, at.factorsOf(k));
+        turn<W, few>(rows, out, all, k / W, blocks, factors);
     }
 }
 
@@ -117,11 +118,11 @@ inline void inPasses(int order, In in, Out out, Room room, T* work, const T* fac
     const Rows<T, W> own{work};
     const T* ofColumns = factors + 2 * turnFactors<T>(std::ptrdiff_t{1} << m, W);
     if (Passes{m}.count <= 2) {
-        columns<W>(m, in, own, room, own, ofColumns);
+        twoPasses<W>(m, in, room, own, ofColumns);
         turn<W>(own, out, (std::ptrdiff_t{1} << m) / W, 0, 1, factors);
     } else {
         Progress<T> at(m, ofColumns);
-        allButLast<W>(at, in, own, room);
+        allButLast<W>(at, in, own);
         lastPassAndTurn<W>(at, own, out, factors);
     }
 }

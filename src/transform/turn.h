@@ -210,19 +210,22 @@ template <int W, class T, class Out>
     block.template put<1>(to);
 }
 
-// The last pass over some blocks, first, first + step, ... of all; in begins with their rows.
-template <int W, class T, class Out>
+// The last pass over some blocks, the first few of every step from first on; in begins with their rows.
+template <int W, int Few = 1, class T, class Out>
 [[gnu::noinline]] void turn(Rows<T, W> in, Out out, std::ptrdiff_t all, std::ptrdiff_t first,
                             std::ptrdiff_t step, const T* factors)
 {
     if constexpr (turnsHalves<T>(W)) {
+        static_assert(Few == 1);
         turnByHalves<W>(in, out, all, first, step, factors);
     } else {
         const Stride one = in.stride(1), outStride = out.stride(all);
         const TableBehindColumns<T, W> table(factors, all * W);
-        for (std::ptrdiff_t i = 0, block = first; block < all; ++i, block += step)
-            turnBlock<W, T>(in.template from<W>(i * W, one), out.template from<W>(block, outStride),
-                            table.of(block));
+        std::ptrdiff_t row = 0;
+        for (std::ptrdiff_t block = first; block < all; block += step)
+            for (int i = 0; i < Few; ++i, row += W)
+                turnBlock<W, T>(in.template from<W>(row, one), out.template from<W>(block + i, outStride),
+                                table.of(block + i));
     }
 }
 
