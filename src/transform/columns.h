@@ -39,10 +39,9 @@ constexpr std::ptrdiff_t columnFactors(int m)
     return (std::ptrdiff_t{1} << m) - (std::ptrdiff_t{1} << passes.levels(0));
 }
 
-// Where butterflies find their points or leave them, in rows: from the first butterfly, from one to the next, and from
-// point to point.
+// Where butterflies find their points or leave them: rows from one butterfly to the next, and from point to point.
 struct Places {
-    std::ptrdiff_t first, apart, stride;
+    std::ptrdiff_t apart, stride;
 };
 
 template <int R, int W, bool First, class T, class In, class Out>
@@ -52,7 +51,7 @@ template <int R, int W, bool First, class T, class In, class Out>
     using V = Vec<T, W>;
     const Stride inStride = in.stride(from.stride), outStride = out.stride(to.stride);
     for (std::ptrdiff_t i = 0; i < count; ++i) {
-        const auto src = in.template from<R>(from.first + i * from.apart, inStride);
+        const auto src = in.template from<R>(i * from.apart, inStride);
         Cx<V> x[R];
         dft(x, [&](int t) {
             x[t] = src.get(t);
@@ -60,19 +59,20 @@ template <int R, int W, bool First, class T, class In, class Out>
                 if (t > 0)
                     x[t] = times(x[t], {constant<V>(factors[2 * t - 2]), constant<V>(factors[2 * t - 1])});
         });
-        const auto dst = out.template from<R>(to.first + i * to.apart, outStride);
+        const auto dst = out.template from<R>(i * to.apart, outStride);
 #pragma GCC unroll 16
         for (int u = 0; u < R; ++u) dst.put(u, x[u]);
         factors += 2 * (R - 1) * factorSets;
     }
 }
 
-// Butterflies of 2^levels points, with a set of factors each; kept out of line, so that they exist once for their
-// ports.
+// Butterflies of 2^levels points with a set of factors each, from rows that follow one another to rows at equal
+// distances; kept out of line, so that they exist once for their ports.
 template <int W, class T, class In, class Out>
-[[gnu::noinline]] void pass(int levels, In in, Places from, Out out, Places to, std::ptrdiff_t count,
-                            const T* factors)
+[[gnu::noinline]] void pass(int levels, In in, std::ptrdiff_t apart, Out out, std::ptrdiff_t stride,
+                            std::ptrdiff_t count, const T* factors)
 {
+    const Places from{apart, 1}, to{1, stride};
     if (levels == 2)
         butterflies<4, W, false>(in, from, out, to, count, factors, 1);
     else
@@ -83,7 +83,7 @@ template <int W, class T, class In, class Out>
 template <int W, class T, class In, class Out>
 [[gnu::noinline]] void firstPass(int levels, In in, Out out, std::ptrdiff_t groups)
 {
-    const Places places{0, 1, groups};
+    const Places places{1, groups};
     const T* const none = nullptr;
     switch (levels) {
     case 2:
@@ -143,7 +143,7 @@ inline void twoPasses(int m, In in, Between between, Out out, const T* factors)
     const std::ptrdiff_t first = std::ptrdiff_t{1} << passes.levels(0),
                          second = std::ptrdiff_t{1} << passes.levels(1);
     firstPass<W, T>(passes.levels(0), in, between, second);
-    pass<W>(passes.levels(1), between, {0, second, 1}, out, {0, 1, first}, first, factors);
+    pass<W>(passes.levels(1), between, second, out, first, first, factors);
 }
 
 // The first two passes at once, by the rows that depend on one another: every n-th, few enough for the first cache.
@@ -166,10 +166,11 @@ template <int W, class T>
 {
     constexpr int radix = 1 << mostLevels;
     const std::ptrdiff_t groups = at.groups / radix;
+    const Places places{1, groups};
     for (std::ptrdiff_t j = 0; j < at.together; ++j)
         for (std::ptrdiff_t k = j; k < at.done; k += at.together) {
-            const Places places{at.rowOf(k), 1, groups};
-            butterflies<radix, W, false>(own, places, own, places, groups, at.factorsOf(k), 0);
+            const auto rows = own.every(1, at.rowOf(k));
+            butterflies<radix, W, false>(rows, places, rows, places, groups, at.factorsOf(k), 0);
         }
 }
 
@@ -189,7 +190,7 @@ inline void columns(int m, In in, Rows<T, W> own, Out out, const T* factors)
     if (at.passes.count == 2) return twoPasses<W>(m, in, own, out, factors);
     allButLast<W>(at, in, own);
     for (std::ptrdiff_t k = 0; k < at.done; k += at.together)
-        pass<W>(at.levels(), own, {at.rowOf(k), at.apart, 1}, out, {k, 1, at.done}, at.together,
+        pass<W>(at.levels(), own.every(1, at.rowOf(k)), at.apart, out.every(1, k), at.done, at.together,
                 at.factorsOf(k));
 }
 

@@ -8,7 +8,7 @@
 
 namespace zors::ZORS_VARIANT {
 
-inline constexpr int firstBlockedOrder = 17;
+inline constexpr int firstBlockedOrder = 18;
 template <class T>
 inline constexpr int firstHalvedOrder = sizeof(T) == 4 ? 27 : 26;
 

@@ -211,6 +211,7 @@ struct Scaled {
     {
         return scaled(out.template closeFrom<Step>(row));
     }
+    Scaled every(std::ptrdiff_t step, std::ptrdiff_t first) const { return {out.every(step, first), factor}; }
     template <class Rows>
     [[gnu::always_inline]] Some<Rows> scaled(Rows rows) const
     {

@@ -8,7 +8,7 @@
 namespace zors::test {
 namespace {
 
-constexpr int orders[] = {0, 3, 5, 7, 11, 12, 17, 18};
+constexpr int orders[] = {0, 3, 5, 7, 11, 12, 18, 19};
 
 TEST(Allocation, InitAllocLeavesNothingBehind)
 {
