@@ -1,7 +1,7 @@
 // Transforms of many columns at once: M rows of W columns become their M-point transforms, lane by lane, without
-// a shuffle. Passes of radix 4 to 16 that sort themselves (Stockham's arrangement, decimation in time): behind a
-// pass with l = product of the radices so far, row j M / l + g holds point j of the transform of every M / l-th
-// row from g on. The first pass needs no factors and may write where it reads.
+// a shuffle, by passes of radix 4 to 16 (decimation in time). The first two sort themselves (Stockham's arrangement):
+// behind them, with l = product of the radices so far, row j M / l + g holds point j of the transform of every
+// M / l-th row from g on. The first one needs no factors and may write where it reads.
 #pragma once
 
 #include "ports.h"
@@ -13,22 +13,16 @@ namespace zors::ZORS_VARIANT {
 // first pass of 16, which has no factors, in the place of two of 4 saves a way through the data.
 inline constexpr int mostLevels = 3;
 
-constexpr bool beginsWith16(int m)
-{
-    return m > 2 * mostLevels && m % mostLevels == 1;
-}
-
-// How the levels of an M-point column, M = 2^m, are divided among passes: evenly, the larger radices first.
+// How the levels of an M-point column, M = 2^m, m > 4, are divided among passes.
 struct Passes {
     int m;
-    int count = beginsWith16(m) ? m / mostLevels : (m + mostLevels - 1) / mostLevels;
+    int count = (m + 1) / mostLevels;
 
-    // At most two levels are missing: the last pass lacks one, then the one before it. Or the first has one more.
+    // The first one may have a level more, or the last one a level less.
     constexpr int levels(int pass) const
     {
-        const int missing = count * mostLevels - m, behind = count - 1 - pass;
-        if (missing < 0) return mostLevels + (pass == 0 ? 1 : 0);
-        return mostLevels - (missing > behind ? 1 : 0);
+        const int more = m - count * mostLevels;
+        return mostLevels + (pass == (more > 0 ? 0 : count - 1) ? more : 0);
     }
 };
 
@@ -44,6 +38,7 @@ struct Places {
     std::ptrdiff_t apart, stride;
 };
 
+// Butterflies of R points, with so many sets of factors from one to the next.
 template <int R, int W, bool First, class T, class In, class Out>
 [[gnu::always_inline]] inline void butterflies(In in, Places from, Out out, Places to, std::ptrdiff_t count,
                                                const T* factors, std::ptrdiff_t factorSets)
@@ -85,21 +80,15 @@ template <int W, class T, class In, class Out>
 {
     const Places places{1, groups};
     const T* const none = nullptr;
-    switch (levels) {
-    case 2:
-        return butterflies<4, W, true>(in, places, out, places, groups, none, 0);
-    case 4:
-        return butterflies<16, W, true>(in, places, out, places, groups, none, 0);
-    default:
-        return butterflies<8, W, true>(in, places, out, places, groups, none, 0);
-    }
+    if (levels > mostLevels)
+        butterflies<16, W, true>(in, places, out, places, groups, none, 0);
+    else
+        butterflies<8, W, true>(in, places, out, places, groups, none, 0);
 }
 
-// Where a transform stands between two passes.
-//
-// The first two passes put their points into order. The later ones leave theirs where they find them, which takes
-// fewer lines through the caches; so from there on the rows j of the first two passes' points are apart rows from one
-// another, and the points run by run: run q are the points together q + j.
+// Where a transform stands between two passes. Passes behind the first two leave their points where they find them,
+// because that takes fewer lines through the caches: only so many points as stand together are in order, each so many
+// rows apart from the one before.
 template <class T>
 struct Progress {
     Passes passes;

@@ -219,12 +219,12 @@ template <int W, int Few = 1, class T, class Out>
         static_assert(Few == 1);
         turnByHalves<W>(in, out, all, first, step, factors);
     } else {
-        const Stride one = in.stride(1), outStride = out.stride(all);
+        const Stride outStride = out.stride(all);
         const TableBehindColumns<T, W> table(factors, all * W);
         std::ptrdiff_t row = 0;
         for (std::ptrdiff_t block = first; block < all; block += step)
             for (int i = 0; i < Few; ++i, row += W)
-                turnBlock<W, T>(in.template from<W>(row, one), out.template from<W>(block + i, outStride),
+                turnBlock<W, T>(in.template closeFrom<1>(row), out.template from<W>(block + i, outStride),
                                 table.of(block + i));
     }
 }
