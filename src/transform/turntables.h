@@ -151,7 +151,7 @@ public:
     }
     [[gnu::always_inline]] Cx<Vec<T, W>> at(int b, int a) const
     {
-        if (b == 1 && a == 0) return times(at(0, 0), next_);
+        if (b == 1 && a == 0) return times(factorAt<T, W>(factors_, 0), next_);
         return factorAt<T, W>(factors_, b * Turn<T, W>::blocks + a - (b > 0 ? 1 : 0));
     }
 
