@@ -57,13 +57,14 @@ inline void sortedTransform(int order, const Arrays& io, const T* factor, T* wor
     const std::ptrdiff_t rows = (std::ptrdiff_t{1} << order) / W;
     if (rows <= mostRowsInRegisters) {
         scaledBy(factor, io.template sink<W>(), [&](const auto& out) {
-            inRegisters<W>(static_cast<int>(rows), io.template source<W>(), out, factors);
+            inRegisters<W>(static_cast<int>(rows), io.template source<W, OrderInRegisters<T, W>>(), out,
+                           factors);
         });
     } else {
-        constexpr bool halved = turnsHalves<T>(W);
-        constexpr int width = halved ? W / 2 : W;
+        constexpr int width = turnsHalves<T>(W) ? W / 2 : W;
         scaledBy(factor, io.template sink<width>(), [&](const auto& out) {
-            inPasses<W>(order, io.template source<W, halved>(), out, io.template room<W>(), work, factors);
+            inPasses<W>(order, io.template source<W, OrderBehindPasses<T, W>>(), out, io.template room<W>(),
+                        work, factors);
         });
     }
 }

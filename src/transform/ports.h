@@ -19,10 +19,19 @@ constexpr int rowOfLane(int lane)
     return block * half + inside % half + (inside < half ? 0 : W / 2);
 }
 
-// Where the halves of a row are taken one by one, even columns are in the lower half and odd ones in the upper.
+// The columns of a source's lanes. Where the halves of a row are taken one by one, even columns are in the lower half
+// and odd ones in the upper.
+struct InOrder {
+    constexpr int operator()(int lane) const { return lane; }
+};
 template <int W>
 struct EvenFirst {
     constexpr int operator()(int lane) const { return lane % (W / 2) * 2 + lane / (W / 2); }
+};
+// As pairs are taken apart inside blocks.
+template <class T, int W>
+struct AsRows {
+    constexpr int operator()(int lane) const { return rowOfLane<T, W>(lane); }
 };
 
 // A port is asked for some rows at once: from<R>(row, stride) are R rows, row, row + n, ..., where stride(n) is that
@@ -63,8 +72,8 @@ struct Rows {
     }
 };
 
-// In two arrays. The distance of rows is that of two columns. Halved is for sources: lanes in the order EvenFirst.
-template <class T, int W, bool Halved = false>
+// In two arrays. The distance of rows is that of two columns. Order is for sources.
+template <class T, int W, class Order = InOrder>
 struct Apart {
     T* re;
     T* im;
@@ -76,11 +85,7 @@ struct Apart {
 
         [[gnu::always_inline]] Cx<Vec<T, W>> get(int i) const
         {
-            const Cx<Vec<T, W>> v = {load<W>(re[i]), load<W>(im[i])};
-            if constexpr (Halved)
-                return {permute<EvenFirst<W>>(v.re), permute<EvenFirst<W>>(v.im)};
-            else
-                return v;
+            return {permute<Order>(load<W>(re[i])), permute<Order>(load<W>(im[i]))};
         }
         [[gnu::always_inline]] void put(int i, Cx<Vec<T, W>> v) const
         {
@@ -119,7 +124,7 @@ struct Apart {
 };
 
 // Complex pairs. Swapped exchanges the parts, which turns the forward transform into the inverse.
-template <class T, int W, bool Swapped, bool Halved = false>
+template <class T, int W, bool Swapped, class Order = InOrder>
 struct Pairs {
     T* p;
     std::ptrdiff_t numbers; // from row to row
@@ -150,15 +155,15 @@ struct Pairs {
         static Pair<Vec<T, W>> apart(Vec<T, W> a, Vec<T, W> b)
         {
             struct Re {
-                constexpr int operator()(int i) const { return 2 * EvenFirst<W>{}(i); }
+                constexpr int operator()(int i) const { return 2 * Order{}(i); }
             };
             struct Im {
                 constexpr int operator()(int i) const { return Re{}(i) + 1; }
             };
-            if constexpr (Halved)
-                return {permute<Re>(a, b), permute<Im>(a, b)};
-            else
+            if constexpr (std::is_same_v<Order, InOrder>)
                 return deinterleave(a, b);
+            else
+                return {permute<Re>(a, b), permute<Im>(a, b)};
         }
     };
     Stride stride(std::ptrdiff_t rows) const { return Stride(rows * numbers * std::ptrdiff_t{sizeof(T)}); }
@@ -245,8 +250,8 @@ struct PairedArrays {
         dst[2 * i] = Swapped ? v.im : v.re;
         dst[2 * i + 1] = Swapped ? v.re : v.im;
     }
-    template <int W, bool Halved = false>
-    Pairs<T, W, Swapped, Halved> source(std::ptrdiff_t stride = W, std::ptrdiff_t first = 0) const
+    template <int W, class Order = InOrder>
+    Pairs<T, W, Swapped, Order> source(std::ptrdiff_t stride = W, std::ptrdiff_t first = 0) const
     {
         return {const_cast<T*>(src) + 2 * first, 2 * stride};
     }
@@ -277,8 +282,8 @@ struct SplitArrays {
         dstRe[i] = v.re;
         dstIm[i] = v.im;
     }
-    template <int W, bool Halved = false>
-    Apart<T, W, Halved> source(std::ptrdiff_t stride = W, std::ptrdiff_t first = 0) const
+    template <int W, class Order = InOrder>
+    Apart<T, W, Order> source(std::ptrdiff_t stride = W, std::ptrdiff_t first = 0) const
     {
         return {const_cast<T*>(srcRe) + first, const_cast<T*>(srcIm) + first, stride};
     }

@@ -53,7 +53,7 @@ template <class T>
     struct MinusI {
         constexpr int operator()(int i) const { return i % 2 * 4 + i; }
     };
-    struct InOrder {
+    struct MiddleExchanged {
         constexpr int operator()(int i) const { return i == 1 ? 2 : i == 2 ? 1 : i; }
     };
     // Times e^(-2 pi i n / 8): lanes 2 and 3 by -i, then lanes 1 and 3 as sums, so that what cancels is gone.
@@ -77,8 +77,8 @@ template <class T>
     Cx<V> c = {permute<Even>(a.re, b.re), permute<Even>(a.im, b.im)};
     Cx<V> d = {permute<Odd>(a.re, b.re), permute<Odd>(a.im, b.im)};
     dft2(c, d);
-    x = {permute<InOrder>(c.re), permute<InOrder>(c.im)};
-    y = {permute<InOrder>(d.re), permute<InOrder>(d.im)};
+    x = {permute<MiddleExchanged>(c.re), permute<MiddleExchanged>(c.im)};
+    y = {permute<MiddleExchanged>(d.re), permute<MiddleExchanged>(d.im)};
 }
 
 template <class T>
@@ -154,7 +154,8 @@ inline void smallTransform(const Arrays& io, const T* factor)
     constexpr int w = lanesForOrder<T>(Order);
     constexpr int rows = (1 << Order) / w;
     scaledBy(factor, io.template sink<w>(), [&](const auto& out) {
-        inRegisters<w, rows>(io.template source<w>(), out, smallFactors<T, Order>.data());
+        inRegisters<w, rows>(io.template source<w, OrderInRegisters<T, w>>(), out,
+                             smallFactors<T, Order>.data());
     });
 }
 

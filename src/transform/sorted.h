@@ -54,7 +54,7 @@ template <int W, int M, class T, class In, class Out>
     const auto src = in.template closeFrom<1>(0);
     Cx<V> x[M];
     dft(x, [&](int t) { x[t] = src.get(t); });
-    const WholeTable<T, W> table(factors);
+    const TableInRegisters<T, W> table(factors);
 #pragma GCC unroll 16
     for (int block = 0; block < M / W; ++block)
         turnBlock<W, T>(Held<V>{x + block * W}, out.template closeFrom<M / W>(block), table.of(block));

@@ -94,7 +94,42 @@ template <int W, int Q, class T, class Table>
         dft2Turned<Q * 16 / W>(z[0], z[1]);
 }
 
-// The last pass over one block of W rows.
+// The last pass over one block of W rows, first inside the blocks of vectors.
+template <int W, class T, class In, class Out>
+[[gnu::always_inline]] inline void turnBlock(const In& in, const Out& out,
+                                             const InsideFirstTable<T, W>& table)
+{
+    constexpr int lanes = Turn<T, W>::lanes, half = lanes / 2;
+    Cx<Vec<T, W>> x[2][2][half];
+    each<2>([&](auto c) __attribute__((always_inline)) {
+        PointsOfLanes<T, W> y;
+#pragma GCC unroll 4
+        for (int b = 0; b < lanes; ++b) y[b] = in.get(rowOfLane<T, W>(lanes * c + b));
+        turnInside<W, T>(y);
+#pragma GCC unroll 4
+        for (int i = 0; i < lanes; ++i) y[i] = times(y[i], table.at(c, i));
+#pragma GCC unroll 4
+        for (int i = 0; i < half; ++i) {
+            dft2(y[i], y[i + half]);
+            x[0][c][i] = y[i];
+            x[1][c][i] = y[i + half];
+        }
+    });
+    each<2>([&](auto q) __attribute__((always_inline)) {
+        PointsOfLanes<T, W> z;
+#pragma GCC unroll 4
+        for (int i = 0; i < half; ++i) {
+            z[i] = x[q][0][i], z[i + half] = x[q][1][i];
+            exchangeBlocks<lanes>(z[i].re, z[i + half].re);
+            exchangeBlocks<lanes>(z[i].im, z[i + half].im);
+        }
+        transformInside<W, q, T>(table, z);
+#pragma GCC unroll 4
+        for (int j = 0; j < lanes; ++j) out.putTurned(q + 2 * j, z[j]);
+    });
+}
+
+// The same first over whole blocks.
 template <int W, class T, class In, class Out, class Table>
 [[gnu::always_inline]] inline void turnBlock(const In& in, const Out& out, const Table& table)
 {

@@ -36,20 +36,37 @@ constexpr bool turnsHalves(int width)
     return sizeof(T) == 8 && width == 8;
 }
 
+// With two blocks in a vector the steps change places, so that columns may stand as pairs are taken apart inside blocks:
+// in block a lane i is column p(B a + i), p(lane) = rowOfLane(lane). First, for the rows p(B c + b) of each c, b and i
+// change places, and vectors i and i + B / 2, which hold columns W / 2 apart, are transformed; then c and a change
+// places, and B points are transformed.
+template <class T>
+constexpr bool turnsInsideFirst(int width)
+{
+    return hasTwoBlocks<Vec<T>> && width == lanes<T>;
+}
+
+// The columns of lanes that a turn takes.
+template <class T, int W>
+using OrderInRegisters = std::conditional_t<turnsInsideFirst<T>(W), AsRows<T, W>, InOrder>;
+template <class T, int W>
+using OrderBehindPasses = std::conditional_t<turnsHalves<T>(W), EvenFirst<W>, OrderInRegisters<T, W>>;
+
 // Factors: for each block of rows, b and a those of k l, real parts of a vector, then imaginary ones; with one step
 // for i = 1..B - 1. Behind passes, which have factors too, those for a = 0 and b = 1 are left out, or the tables would
 // have more than N: they are those of b = 0 times e^(-2 pi i step i / N), which stand behind all.
 template <class T>
 constexpr bool isShort(std::ptrdiff_t rows, int width)
 {
-    return width > lanesOfBlock<Vec<T>> && rows > mostRowsInRegisters;
+    return width > lanesOfBlock<Vec<T>> && rows > mostRowsInRegisters && !turnsInsideFirst<T>(width);
 }
 
 template <class T>
 constexpr std::ptrdiff_t turnFactors(std::ptrdiff_t rows, int width)
 {
     if (isShort<T>(rows, width)) return rows * (width - 1) + lanesOfBlock<Vec<T>>;
-    return rows * (width > lanesOfBlock<Vec<T>> ? width : width - 1);
+    const bool all = width > lanesOfBlock<Vec<T>> && !turnsInsideFirst<T>(width);
+    return rows * (all ? width : width - 1);
 }
 
 // A factor of every lane.
@@ -81,6 +98,24 @@ constexpr T* fillBlock(int order, const Wave<T>& wave, std::ptrdiff_t row, int f
     return p;
 }
 
+// Of W rows where the steps have changed places: for c and i those of all lanes, but for i = 0 only those of the second
+// block, as the first one has column 0.
+template <class T, int W>
+constexpr T* fillInsideFirst(int order, const Wave<T>& wave, std::ptrdiff_t row, T* p)
+{
+    constexpr int each = Turn<T, W>::lanes;
+    for (int c = 0; c < 2; ++c)
+        for (int i = 0; i < each; ++i) {
+            const int skipped = i == 0 ? each : 0;
+            const auto power = [=](int lane) {
+                const int at = lane + skipped, column = rowOfLane<T, W>(at / each * each + i);
+                return (row + rowOfLane<T, W>(each * c + at % each)) * column;
+            };
+            p = putFactors(wave, order, W - skipped, power, p);
+        }
+    return p;
+}
+
 // Of rows that are taken whole, or in two halves of W columns.
 template <class T, int W, int Parts = 1>
 constexpr void fillTurn(int order, const Wave<T>& wave, T* p)
@@ -89,7 +124,9 @@ constexpr void fillTurn(int order, const Wave<T>& wave, T* p)
     const std::ptrdiff_t rows = (std::ptrdiff_t{1} << order) / (W * Parts);
     const bool isShort = ZORS_VARIANT::isShort<T>(rows, W * Parts);
     for (std::ptrdiff_t row = 0; row < rows; row += W)
-        if constexpr (Turn::twoSteps) {
+        if constexpr (turnsInsideFirst<T>(W)) {
+            p = fillInsideFirst<T, W>(order, wave, row, p);
+        } else if constexpr (Turn::twoSteps) {
             for (int part = 0; part < Parts; ++part)
                 p = fillBlock<T, W>(order, wave, row, part, Parts, isShort && part == 0, p);
         } else {
@@ -160,7 +197,33 @@ private:
     Cx<Vec<T, W>> next_;
 };
 
+// Where the steps have changed places: by c and i.
 template <class T, int W>
-using TableBehindColumns = std::conditional_t<Turn<T, W>::twoSteps, ShortTable<T, W>, WholeTable<T, W>>;
+class InsideFirstTable {
+public:
+    explicit InsideFirstTable(const T* factors, std::ptrdiff_t = 0) : factors_(factors) {}
+
+    InsideFirstTable of(std::ptrdiff_t block) const
+    {
+        return InsideFirstTable(factors_ + block * 2 * W * (W - 1));
+    }
+    [[gnu::always_inline]] Cx<Vec<T, W>> at(int c, int i) const
+    {
+        constexpr int each = Turn<T, W>::lanes;
+        const T* const p = factors_ + c * each * 2 * (W - 1);
+        if (i > 0) return factorAt<T, W>(p + 2 * each, i - 1);
+        return {concatenated(splat<T, each>(1), load<each>(p)),
+                concatenated(splat<T, each>(0), load<each>(p + each))};
+    }
+
+private:
+    const T* factors_;
+};
+
+template <class T, int W>
+using TableInRegisters = std::conditional_t<turnsInsideFirst<T>(W), InsideFirstTable<T, W>, WholeTable<T, W>>;
+template <class T, int W>
+using TableBehindColumns = std::conditional_t<Turn<T, W>::twoSteps && !turnsInsideFirst<T>(W),
+                                              ShortTable<T, W>, TableInRegisters<T, W>>;
 
 } // namespace zors::ZORS_VARIANT
