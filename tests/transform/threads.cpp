@@ -13,12 +13,14 @@ TEST(Threads, ShareARecord)
     constexpr int threads = 8;
     Random random;
     for (const Transform& t : transforms())
-        for (const int order : {4, 8, 12, 15, 18}) {
+        for (const int order : {4, 8, 12, 18}) {
+            if (order > longestOrder(18)) continue;
             const Spec spec(*t.kind, order, ZOR_FFT_SCALE_SQRT);
             const Sizes sizes = sizesOf(*t.kind, order);
             const Memory in = randomInput(t, order, random);
             Memory expected(t.out.bytes(order));
             ASSERT_EQ(t.run(in.get(), expected.get(), spec.get(), order, 0, nullptr), zorStsOk);
+            const int repeats = order > 12 ? 1 : 3; // the longest ones meet in one run
             std::vector<Memory> out(threads, Memory(t.out.bytes(order)));
             std::vector<std::thread> running;
             for (int i = 0; i < threads; ++i)
@@ -26,7 +28,7 @@ TEST(Threads, ShareARecord)
                     Memory work(static_cast<std::size_t>(sizes.work));
                     // Half of them bring a buffer.
                     auto* buffer = i % 2 ? static_cast<Zor8u*>(work.get()) : nullptr;
-                    for (int repeat = 0; repeat < 3; ++repeat)
+                    for (int repeat = 0; repeat < repeats; ++repeat)
                         t.run(in.get(), out[static_cast<std::size_t>(i)].get(), spec.get(), order, 0, buffer);
                 });
             for (auto& thread : running) thread.join();
