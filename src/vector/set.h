@@ -40,7 +40,6 @@ inline void fill(T value, T* pDst, std::ptrdiff_t len)
     const Vec<Lane> v = repeated(value);
     auto* p = reinterpret_cast<Lane*>(pDst);
     blocksInto<lanes<Lane>, each>(
-
         len * each, [=](auto at) { store(p, at, v); }, p);
 }
 
