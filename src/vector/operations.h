@@ -117,14 +117,15 @@ template <class Operation, class T, class A, class B>
     return zorStsOk;
 }
 
-// Sums and differences of complex numbers are those of their parts.
+// Sums and differences of complex vectors are those of their parts. Not with a constant, whose parts take turns: a
+// step that starts inside an element would take them in the wrong order.
 template <class Operation, class T, class A, class B>
 inline ZorStatus operate(A a, B b, T* pDst, int len, bool inPlace, int scaleFactor)
 {
-    if constexpr (std::is_same_v<Operation, Multiply>)
-        return operateScaled<Operation>(a, b, pDst, len, inPlace, scaleFactor);
-    else
+    if constexpr (!std::is_same_v<Operation, Multiply> && std::is_same_v<A, B>)
         return operateScaled<Operation>(a, b, asLanes(pDst), laneCount<T>(len), inPlace, scaleFactor);
+    else
+        return operateScaled<Operation>(a, b, pDst, len, inPlace, scaleFactor);
 }
 
 } // namespace zors::ZORS_VARIANT

@@ -183,6 +183,32 @@ TEST(Arithmetic, MixedTypes)
     each(product, PLAIN(Mul, 32f32fc), zorsMul_16u16s_Sfs, zorsMul_16s32s_Sfs, SCALED(Mul, 32s32sc));
 }
 
+template <class T, class... Factor>
+void expectPieces(ZorStatus (*function)(const T*, T, T*, int, Factor...), Factor... factor)
+{
+    Random random;
+    const T val = {1000, -3};
+    const int len = static_cast<int>(longBytes / static_cast<std::ptrdiff_t>(sizeof(T))) + 3, most = 4099;
+    const RandomVector<T> src(len, 0, random);
+    RandomVector<T> got(len, 1, random), want = got;
+    for (int n = 0; n < len; n += most)
+        function(src.data() + n, val, want.data() + n, std::min(most, len - n), factor...);
+    expectResult(function(src.data(), val, got.data(), len, factor...), got, want, len, __PRETTY_FUNCTION__);
+}
+
+// A long vector is what its pieces are: its steps meet complex constants at whole elements, even where the destination
+// is aligned to a part only.
+TEST(Arithmetic, ComplexConstantsInLongVectors)
+{
+    expectPieces(zorsAddC_16sc_Sfs, 1);
+    expectPieces(zorsSubC_16sc_Sfs, 0);
+    expectPieces(zorsMulC_16sc_Sfs, 3);
+    expectPieces(zorsAddC_32sc_Sfs, 2);
+    expectPieces(zorsSubCRev_32sc_Sfs, 1);
+    expectPieces(zorsAddC_32fc);
+    expectPieces(zorsMulC_64fc);
+}
+
 // All pairs of 8-bit elements at every factor that makes a difference.
 TEST(Arithmetic, AllPairsOf8Bits)
 {
