@@ -189,8 +189,8 @@ void expectPieces(ZorStatus (*function)(const T*, T, T*, int, Factor...), Factor
     Random random;
     const T val = {1000, -3};
     const int len = static_cast<int>(longBytes / static_cast<std::ptrdiff_t>(sizeof(T))) + 3, most = 4099;
-    const RandomVector<T> src(len, 0, random);
-    RandomVector<T> got(len, 1, random), want = got;
+    RandomVector<T> src(len, 0, random), got(len, 1, random), want = got;
+    std::generate_n(src.data(), len, [&] { return element<T>(random); });
     for (int n = 0; n < len; n += most)
         function(src.data() + n, val, want.data() + n, std::min(most, len - n), factor...);
     expectResult(function(src.data(), val, got.data(), len, factor...), got, want, len, __PRETTY_FUNCTION__);
