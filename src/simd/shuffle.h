@@ -146,24 +146,31 @@ inline auto doubled(H half)
     (half, std::make_integer_sequence<int, 2 * lanesOf<H>>{});
 }
 
+// In every 16 bytes, the even lanes of a and then those of b, and the odd ones.
+template <class V>
+[[gnu::always_inline]] inline Pair<V> deinterleaveInside(V a, V b)
+{
+    struct Even {
+        constexpr int operator()(int i) const
+        {
+            constexpr int each = lanesOfBlock<V>;
+            const int inside = 2 * (i % each);
+            return i / each * each + (inside < each ? inside : lanesOf<V> + inside - each);
+        }
+    };
+    struct Odd {
+        constexpr int operator()(int i) const { return Even{}(i) + 1; }
+    };
+    return {permute<Even>(a, b), permute<Odd>(a, b)};
+}
+
 // The even and the odd lanes of a followed by b.
 template <class V>
 inline Pair<V> deinterleave(V a, V b)
 {
     if constexpr (hasTwoBlocks<V>) {
-        constexpr int each = lanesOfBlock<V>;
-        struct EvenInside {
-            constexpr int operator()(int i) const
-            {
-                const int inside = 2 * (i % each);
-                return i / each * each + (inside < each ? inside : lanesOf<V> + inside - each);
-            }
-        };
-        struct OddInside {
-            constexpr int operator()(int i) const { return EvenInside{}(i) + 1; }
-        };
-        exchangeBlocks<each>(a, b);
-        return {permute<EvenInside>(a, b), permute<OddInside>(a, b)};
+        exchangeBlocks<lanesOfBlock<V>>(a, b);
+        return deinterleaveInside(a, b);
     }
     struct Even {
         constexpr int operator()(int i) const { return 2 * i; }

@@ -6,19 +6,34 @@
 namespace zors::ZORS_VARIANT {
 namespace {
 
-template <class T, class Arrays>
-ZorStatus transform(const FloatRecord<T>& spec, const Arrays& io, bool inverse, Zor8u* pBuffer)
+// By value where it goes in registers.
+template <class Arrays>
+using Passed = std::conditional_t<sizeof(Arrays) <= 2 * sizeof(void*), Arrays, const Arrays&>;
+
+template <class Arrays, class T>
+[[gnu::noinline]] ZorStatus shortTransform(int order, Passed<Arrays> io, const T* factor)
 {
-    const T* factor = (inverse ? spec.scalesInverse : spec.scalesForward) ? &spec.factor : nullptr;
-    // The shortest take no longer than a few calls would.
-    if (spec.order <= mostSmallOrder) {
-        smallTransform(spec.order, io, factor);
-        return zorStsOk;
-    }
+    smallTransform(order, io, factor);
+    return zorStsOk;
+}
+
+template <class Arrays, class T>
+[[gnu::noinline]] ZorStatus longTransform(const FloatRecord<T>& spec, Passed<Arrays> io, const T* factor,
+                                          Zor8u* pBuffer)
+{
     const Work work(spec.workSize, pBuffer);
     if (work.missing()) return zorStsNoMemory;
     complexTransform(spec, spec.order, spec.order, io, factor, work.as<T>());
     return zorStsOk;
+}
+
+// Each by a jump, as the shortest take no longer than a few calls and a frame on the stack would.
+template <class T, class Arrays>
+inline ZorStatus transform(const FloatRecord<T>& spec, const Arrays& io, bool inverse, Zor8u* pBuffer)
+{
+    const T* factor = (inverse ? spec.scalesInverse : spec.scalesForward) ? &spec.factor : nullptr;
+    if (spec.order <= mostSmallOrder) return shortTransform<Arrays>(spec.order, io, factor);
+    return longTransform<Arrays>(spec, io, factor, pBuffer);
 }
 
 template <bool Inverse, class C, class Spec>

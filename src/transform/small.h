@@ -31,6 +31,19 @@ inline void scalarTransform(const Arrays& io, const T* factor)
     for (int i = 0; i < R; ++i) io.put(i, x[i]);
 }
 
+// The even lanes of one vector and the odd ones of a second.
+template <int Lanes>
+struct OddOfSecond {
+    constexpr int operator()(int i) const { return i + i % 2 * Lanes; }
+};
+
+template <class V>
+[[gnu::always_inline]] inline Cx<V> oddTimesMinusI(Cx<V> v)
+{
+    using Map = OddOfSecond<lanesOf<V>>;
+    return {permute<Map>(v.re, v.im), permute<Map>(v.im, -v.re)};
+}
+
 // Eight points in two vectors of four. The sums hold the even points, the differences the odd ones, and each half of
 // a vector is a transform of four.
 template <class T>
@@ -49,10 +62,6 @@ template <class T>
     struct Odd {
         constexpr int operator()(int i) const { return Even{}(i) + 1; }
     };
-    // The odd lanes from the second vector: with the parts exchanged, those lanes times -i.
-    struct MinusI {
-        constexpr int operator()(int i) const { return i % 2 * 4 + i; }
-    };
     struct MiddleExchanged {
         constexpr int operator()(int i) const { return i == 1 ? 2 : i == 2 ? 1 : i; }
     };
@@ -60,20 +69,17 @@ template <class T>
     struct UpperOfSecond {
         constexpr int operator()(int i) const { return i < 2 ? i : i + 4; }
     };
-    struct OddOfSecond {
-        constexpr int operator()(int i) const { return i % 2 ? i + 4 : i; }
-    };
     const T h = static_cast<T>(sqrtHalf);
     const V scale = {1, h, 1, h};
     const Cx<V> even = x + y, difference = x - y;
     const Cx<V> z = {permute<UpperOfSecond>(difference.re, difference.im),
                      permute<UpperOfSecond>(difference.im, -difference.re)};
-    const Cx<V> odd = {permute<OddOfSecond>(z.re, z.re + z.im) * scale,
-                       permute<OddOfSecond>(z.im, z.im - z.re) * scale};
+    const Cx<V> odd = {permute<OddOfSecond<4>>(z.re, z.re + z.im) * scale,
+                       permute<OddOfSecond<4>>(z.im, z.im - z.re) * scale};
     Cx<V> a = {permute<Low>(even.re, odd.re), permute<Low>(even.im, odd.im)};
     Cx<V> b = {permute<High>(even.re, odd.re), permute<High>(even.im, odd.im)};
     dft2(a, b);
-    b = {permute<MinusI>(b.re, b.im), permute<MinusI>(b.im, -b.re)};
+    b = oddTimesMinusI(b);
     Cx<V> c = {permute<Even>(a.re, b.re), permute<Even>(a.im, b.im)};
     Cx<V> d = {permute<Odd>(a.re, b.re), permute<Odd>(a.im, b.im)};
     dft2(c, d);
@@ -83,6 +89,9 @@ template <class T>
 
 template <class T>
 inline constexpr bool hasFourLanes = lanes<T> >= 4;
+// Two blocks of four.
+template <class T>
+inline constexpr bool hasEightLanes = lanes<T> >= 8 && lanesOfBlock<Vec<T, 8>> == 4;
 
 template <class T, class Arrays>
 inline void eightPoints(const Arrays& io, const T* factor)
@@ -97,6 +106,50 @@ inline void eightPoints(const Arrays& io, const T* factor)
         dst.put(1, y);
     } else {
         scalarTransform<8>(io, factor);
+    }
+}
+
+// 16 points in two vectors of eight, as pairs are taken apart inside blocks: lane 4 a + 2 b + c has point 4 b + 2 a + c.
+// Behind a step of radix 2 over the vectors these change places with b, then with a, then with c.
+template <class T>
+inline constexpr std::array<T, 32> factorsOf16 = [] {
+    std::array<T, 32> factors{};
+    for (int lane = 0; lane < 8; ++lane) {
+        const int point = rowOfLane<T, 8>(lane);
+        const Cx<T> first = smallWave<T>(point, 4), second = smallWave<T>(lane / 4 * 2 + lane % 2, 3);
+        const auto put = [&](int vector, T value) {
+            factors[static_cast<std::size_t>(8 * vector + lane)] = value;
+        };
+        put(0, first.re), put(1, first.im), put(2, second.re), put(3, second.im);
+    }
+    return factors;
+}();
+
+template <class T, class Arrays>
+inline void points16(const Arrays& io, const T* factor)
+{
+    using V = Vec<T, 8>;
+    const auto src = io.template source<8, AsRows<T, 8>>().template closeFrom<1>(0);
+    const auto dst = io.template sink<8>().template closeFrom<1>(0);
+    const T* factors = factorsOf16<T>.data();
+    Cx<V> x = src.get(0), y = src.get(1);
+    dft2(x, y);
+    y = times(y, factorAt<T, 8>(factors, 0));
+    exchangeBlocks<2>(x.re, y.re);
+    exchangeBlocks<2>(x.im, y.im);
+    dft2(x, y);
+    y = times(y, factorAt<T, 8>(factors, 1));
+    exchangeBlocks<4>(x.re, y.re);
+    exchangeBlocks<4>(x.im, y.im);
+    dft2(x, y);
+    y = oddTimesMinusI(y);
+    const auto re = deinterleaveInside(x.re, y.re), im = deinterleaveInside(x.im, y.im);
+    Cx<V> z[2] = {{re.first, im.first}, {re.second, im.second}};
+    dft2(z[0], z[1]);
+#pragma GCC unroll 2
+    for (int i = 0; i < 2; ++i) {
+        if (factor) z[i] = {z[i].re * *factor, z[i].im * *factor};
+        dst.putTurned(i, z[i]);
     }
 }
 
@@ -172,9 +225,12 @@ inline void smallTransform(int order, const Arrays& io, const T* factor)
     case 3:
         return eightPoints(io, factor);
     case 4:
-        return smallTransform<4>(io, factor);
+        if constexpr (hasEightLanes<T>)
+            return points16(io, factor);
+        else
+            return smallTransform<4>(io, factor);
     default:
-        if constexpr (lanesOfBlock<Vec<T, 8>> == 4 && lanes<T> >= 8)
+        if constexpr (hasEightLanes<T>)
             return points32(io, factor);
         else
             return smallTransform<5>(io, factor);
