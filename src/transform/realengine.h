@@ -21,19 +21,19 @@ template <class T, bool Forward, int Order>
     }();
 
 template <bool Forward, class T>
-inline void recombine(const FloatRecord<T>& spec, const T* from, T* to)
+inline void recombine(const FloatRecord<T>& spec, const T* from, T* to, Cx<T> zero)
 {
     const T* factors = Forward ? spec.realFactors : spec.ccsFactors;
     const int order = spec.order;
     if (order >= firstTwoLevelOrder<T>) {
         const std::ptrdiff_t outer = 2 * (recombinationFactors<T>(order) - innerFactors);
-        recombine<Forward>(order, from, to, TwoLevel<T>{factors, factors + outer});
+        recombine<Forward>(order, from, to, zero, TwoLevel<T>{factors, factors + outer});
     } else {
         if (order == 2) factors = smallRecombination<T, Forward, 2>.data();
         if (order == 3) factors = smallRecombination<T, Forward, 3>.data();
         if (order == 4) factors = smallRecombination<T, Forward, 4>.data();
         if (order == 5 && !factors) factors = smallRecombination<T, Forward, 5>.data();
-        recombine<Forward>(order, from, to, OneLevel<T>{factors});
+        recombine<Forward>(order, from, to, zero, OneLevel<T>{factors});
     }
 }
 
@@ -62,6 +62,13 @@ struct Mirror {
     };
     struct Down {
         constexpr int operator()(int i) const { return 3 - i; }
+    };
+    // The latter from pairs.
+    struct RealDown {
+        constexpr int operator()(int i) const { return 2 * Down{}(i); }
+    };
+    struct ImaginaryDown {
+        constexpr int operator()(int i) const { return RealDown{}(i) + 1; }
     };
     struct First {
         constexpr int operator()(int i) const { return i == 0 ? 0 : i + 3; }
@@ -96,11 +103,13 @@ inline void inverseOf16(const T* pairs, T first, T last, T* dst, const T* factor
 {
     using V = Vec<T, 4>;
     using M = Mirror<V>;
-    auto up = loadInOrder<4>(pairs), down = loadMirrored<4>(pairs + 6);
+    const V a = load<4>(pairs + 6), b = load<4>(pairs + 10);
+    Cx<V> up = loadInOrder<4>(pairs);
+    Cx<V> down = {permute<typename M::RealDown>(a, b), permute<typename M::ImaginaryDown>(a, b)};
     recombinePair<false>(up, down, loadInOrder<4>(smallRecombination<T, false, 4>.data() + 2));
     const Cx<V> ends = {splat<T, 4>(first + last), splat<T, 4>(first - last)};
-    const Cx<V> a = permuted<typename M::First>(ends, up), b = permuted<typename M::Second>(up, down);
-    Cx<V> x = {a.im, a.re}, y = {b.im, b.re};
+    const Cx<V> p = permuted<typename M::First>(ends, up), q = permuted<typename M::Second>(up, down);
+    Cx<V> x = {p.im, p.re}, y = {q.im, q.re};
     eightPoints<T>(x, y);
     if (factor) x = {x.re * *factor, x.im * *factor}, y = {y.re * *factor, y.im * *factor};
     storeInOrder<4>(dst, Cx<V>{x.im, x.re});
@@ -123,10 +132,7 @@ inline void realForward(const FloatRecord<T>& spec, const T* src, T* dst, T* wor
         }
     }
     complexTransform(spec, spec.order - 1, spec.order - 1, PairedArrays<T, false>{src, dst}, factor, work);
-    const T re = dst[0], im = dst[1];
-    dst[0] = re + im;
-    dst[1] = re - im;
-    if (spec.order > 1) recombine<true>(spec, dst, dst);
+    recombine<true>(spec, dst, dst, {dst[0] + dst[1], dst[0] - dst[1]});
     pack<packing>(std::ptrdiff_t{1} << spec.order, dst);
 }
 
@@ -149,9 +155,7 @@ inline void realInverse(const FloatRecord<T>& spec, const T* src, T* dst, T* wor
         std::memmove(dst + 2, src + 1, static_cast<std::size_t>(n - 2) * sizeof(T));
         src = dst;
     }
-    if (spec.order > 1) recombine<false>(spec, src, dst);
-    dst[0] = first + last;
-    dst[1] = first - last;
+    recombine<false>(spec, src, dst, {first + last, first - last});
     complexTransform(spec, spec.order - 1, spec.order - 1, PairedArrays<T, true>{dst, dst}, factor, work);
 }
 

@@ -75,7 +75,7 @@ template <bool Forward, class V>
     b.im = -b.im;
 }
 
-// Complex pairs from and to memory, in order or in the opposite one, in which the first lane is the last pair.
+// Complex pairs from and to memory, in order or with the lanes behind the first in the opposite one.
 template <int W, class T>
 [[gnu::always_inline]] inline Cx<Vec<T, W>> loadInOrder(const T* p)
 {
@@ -95,10 +95,10 @@ template <int W, class T>
 [[gnu::always_inline]] inline Cx<Vec<T, W>> loadMirrored(const T* p)
 {
     struct Real {
-        constexpr int operator()(int i) const { return 2 * (W - 1 - i); }
+        constexpr int operator()(int i) const { return (W - i) % W * 2; }
     };
     struct Imaginary {
-        constexpr int operator()(int i) const { return 2 * (W - 1 - i) + 1; }
+        constexpr int operator()(int i) const { return Real{}(i) + 1; }
     };
     const Vec<T, W> a = load<W>(p), b = load<W>(p + W);
     return {permute<Real>(a, b), permute<Imaginary>(a, b)};
@@ -108,16 +108,16 @@ template <int W, class T>
 [[gnu::always_inline]] inline void storeMirrored(T* p, Cx<Vec<T, W>> v)
 {
     struct Low {
-        constexpr int operator()(int i) const { return W - 1 - i / 2 + i % 2 * W; }
+        constexpr int operator()(int i) const { return (W - i / 2) % W + i % 2 * W; }
     };
     struct High {
-        constexpr int operator()(int i) const { return W / 2 - 1 - i / 2 + i % 2 * W; }
+        constexpr int operator()(int i) const { return W / 2 - i / 2 + i % 2 * W; }
     };
     store<W>(p, permute<Low>(v.re, v.im));
     store<W>(p + W, permute<High>(v.re, v.im));
 }
 
-// Sources of the factors: one table, or the product of two. A vector begins at a multiple of its width, or at 1.
+// Sources of the factors: one table, or the product of two. A vector begins at a multiple of its width.
 template <class T>
 struct OneLevel {
     const T* p;
@@ -157,68 +157,83 @@ struct TwoLevel {
     }
 };
 
-// The last lane of the one, the others of the other.
+// Lane 0 of the one, the others of the other.
 template <class V>
-[[gnu::always_inline]] inline Cx<V> withLastLane(Cx<V> last, Cx<V> others)
+[[gnu::always_inline]] inline Cx<V> withFirstLane(Cx<V> first, Cx<V> others)
 {
     struct Map {
-        constexpr int operator()(int i) const { return i == lanesOf<V> - 1 ? lanesOf<V> + i : i; }
+        constexpr int operator()(int i) const { return i == 0 ? 0 : lanesOf<V> + i; }
     };
-    return {permute<Map>(others.re, last.re), permute<Map>(others.im, last.im)};
+    return {permute<Map>(first.re, others.re), permute<Map>(first.im, others.im)};
 }
 
-// The pairs k to k + W - 1. Without Last the last one stays as it was, for a later step.
-template <bool Forward, bool Last, int W, class T, class Factors>
-[[gnu::always_inline]] inline void recombineVector(const T* from, T* to, std::ptrdiff_t half,
-                                                   std::ptrdiff_t k, Factors factors)
+// The middle is its own mirror: E is 0, and -D on the way back.
+template <bool Forward, class V>
+[[gnu::always_inline]] inline Cx<V> middle(Cx<V> v)
 {
-    const std::ptrdiff_t low = 2 * k, high = 2 * (half - k - W + 1);
-    const auto a = loadInOrder<W>(from + low), b = loadMirrored<W>(from + high);
-    auto x = a, y = b;
-    recombinePair<Forward>(x, y, factors.template vector<Forward, W>(k));
-    if constexpr (!Last) {
-        x = withLastLane(a, x);
-        y = withLastLane(b, y);
-    }
-    storeInOrder<W>(to + low, x);
-    storeMirrored<W>(to + high, y);
+    if constexpr (Forward)
+        return {v.re, -v.im};
+    else
+        return {v.re + v.re, -v.im - v.im};
 }
 
-// After the first step the lower points are aligned as the vector is.
+// W points at a time from the lower end and from the upper one. Vectors are read as the transform leaves them and
+// written as it takes them, because a load that spans two stores waits until both are in the cache. So the mirror of
+// lane 0 comes from the upper vector before.
 template <bool Forward, int W, class T, class Factors>
-[[gnu::always_inline]] inline void recombineVectors(const T* from, T* to, std::ptrdiff_t half,
+[[gnu::always_inline]] inline void recombineVectors(const T* from, T* to, std::ptrdiff_t half, Cx<T> zero,
                                                     Factors factors)
 {
-    recombineVector<Forward, false, W>(from, to, half, 1, factors);
-    for (std::ptrdiff_t k = W; k < half / 2; k += W)
-        recombineVector<Forward, true, W>(from, to, half, k, factors);
+    std::ptrdiff_t mirror = 2 * (half - W);
+    auto upper = loadMirrored<W>(from + mirror);
+    auto x = loadInOrder<W>(from), y = upper;
+    recombinePair<Forward>(x, y, factors.template vector<Forward, W>(0));
+    storeInOrder<W>(to, withFirstLane({splat<T, W>(zero.re), splat<T, W>(zero.im)}, x));
+    for (std::ptrdiff_t k = W; k < half / 2; k += W) {
+        const auto next = loadMirrored<W>(from + mirror - 2 * W);
+        const auto done = y;
+        x = loadInOrder<W>(from + 2 * k);
+        y = withFirstLane(upper, next);
+        recombinePair<Forward>(x, y, factors.template vector<Forward, W>(k));
+        storeInOrder<W>(to + 2 * k, x);
+        storeMirrored<W>(to + mirror, withFirstLane(y, done));
+        upper = next;
+        mirror -= 2 * W;
+    }
+    storeMirrored<W>(to + mirror, withFirstLane(middle<Forward>(upper), y));
 }
 
-// Points 1 to N/2 - 1, N = 2^order from 4 on; from and to are where point 0 stands or would stand. The table has a
-// number to spare where it is as short as a vector.
+// By the widest vectors that are not longer than half the points.
+template <bool Forward, int W, class T, class Factors>
+inline void recombineByWidth(const T* from, T* to, std::ptrdiff_t half, Cx<T> zero, Factors factors)
+{
+    if constexpr (W > 16 / static_cast<int>(sizeof(T))) {
+        if (half / 2 < W) return recombineByWidth<Forward, W / 2>(from, to, half, zero, factors);
+    }
+    recombineVectors<Forward, W>(from, to, half, zero, factors);
+}
+
+// All points, N = 2^order from 2 on, where point 0 becomes zero; from is where it stands or would stand.
 template <bool Forward, class T, class Factors>
-inline void recombine(int order, const T* from, T* to, Factors factors)
+inline void recombine(int order, const T* from, T* to, Cx<T> zero, Factors factors)
 {
     constexpr int few = 16 / static_cast<int>(sizeof(T));
     const std::ptrdiff_t half = (std::ptrdiff_t{1} << order) / 2, quarter = half / 2;
-    if (quarter >= 2 * lanes<T>) {
-        recombineVectors<Forward, lanes<T>>(from, to, half, factors);
-    } else if (quarter >= few) {
-        recombineVectors<Forward, few>(from, to, half, factors);
-    } else {
-        for (std::ptrdiff_t k = 1; k < quarter; ++k) {
-            Cx<T> a = {from[2 * k], from[2 * k + 1]}, b = {from[2 * (half - k)], from[2 * (half - k) + 1]};
-            recombinePair<Forward>(a, b, factors.template scalar<Forward>(k));
-            to[2 * k] = a.re;
-            to[2 * k + 1] = a.im;
-            to[2 * (half - k)] = b.re;
-            to[2 * (half - k) + 1] = b.im;
-        }
+    if (quarter >= few) return recombineByWidth<Forward, lanes<T>>(from, to, half, zero, factors);
+    for (std::ptrdiff_t k = 1; k < quarter; ++k) {
+        Cx<T> a = {from[2 * k], from[2 * k + 1]}, b = {from[2 * (half - k)], from[2 * (half - k) + 1]};
+        recombinePair<Forward>(a, b, factors.template scalar<Forward>(k));
+        to[2 * k] = a.re;
+        to[2 * k + 1] = a.im;
+        to[2 * (half - k)] = b.re;
+        to[2 * (half - k) + 1] = b.im;
     }
-    // The middle is its own mirror: E is 0, and -D on the way back.
-    const T re = from[2 * quarter], im = from[2 * quarter + 1];
-    to[2 * quarter] = Forward ? re : 2 * re;
-    to[2 * quarter + 1] = Forward ? -im : -2 * im;
+    to[0] = zero.re;
+    to[1] = zero.im;
+    if (quarter == 0) return;
+    const auto mid = middle<Forward>(Cx<T>{from[2 * quarter], from[2 * quarter + 1]});
+    to[2 * quarter] = mid.re;
+    to[2 * quarter + 1] = mid.im;
 }
 
 } // namespace zors::ZORS_VARIANT
