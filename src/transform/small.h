@@ -153,6 +153,15 @@ inline void points16(const Arrays& io, const T* factor)
     }
 }
 
+// The transform of a and of b times w by the multipliers alone: beside shuffles the adders have enough to do.
+template <class V>
+[[gnu::always_inline]] inline void dft2Times(Cx<V>& a, Cx<V>& b, Cx<V> w)
+{
+    const Cx<V> x = a, y = b;
+    a = {mulAdd(y.re, w.re, subMul(x.re, y.im, w.im)), mulAdd(y.re, w.im, mulAdd(y.im, w.re, x.im))};
+    b = {subMul(mulAdd(y.im, w.im, x.re), y.re, w.re), subMul(subMul(x.im, y.im, w.re), y.re, w.im)};
+}
+
 // 32 points as four rows of eight columns. Half as many rows as the turn takes at a time, so that the halves of the
 // vectors, transformed, lie side by side in one: lanes 2 and 3 of a block have the odd points, whose factors are
 // e^(-2 pi i n / 8).
@@ -191,9 +200,13 @@ inline void points32(const Arrays& io, const T* factor)
         dft2(x[k], x[k + 2]);
     }
     turnInside<8, T>(x);
-#pragma GCC unroll 4
-    for (int i = 1; i < 4; ++i) x[i] = times(x[i], factorAt<T, 8>(factors, i + 2));
-    dft<4>(x);
+    x[1] = times(x[1], factorAt<T, 8>(factors, 3));
+    dft2Times(x[0], x[2], factorAt<T, 8>(factors, 4));
+    dft2Times(x[1], x[3], factorAt<T, 8>(factors, 5));
+    x[3] = timesMinusI(x[3]);
+    dft2(x[0], x[1]);
+    dft2(x[2], x[3]);
+    std::swap(x[1], x[2]);
 #pragma GCC unroll 4
     for (int j = 0; j < 4; ++j) {
         if (factor) x[j] = {x[j].re * *factor, x[j].im * *factor};
