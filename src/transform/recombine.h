@@ -203,12 +203,14 @@ template <bool Forward, int W, class T, class Factors>
     storeMirrored<W>(to + mirror, withFirstLane(middle<Forward>(upper), y));
 }
 
-// By the widest vectors that are not longer than half the points.
+// By the widest vectors of which half the points are enough. Transforms of fewer than four of 64 bytes leave and take
+// narrower ones.
 template <bool Forward, int W, class T, class Factors>
 inline void recombineByWidth(const T* from, T* to, std::ptrdiff_t half, Cx<T> zero, Factors factors)
 {
-    if constexpr (W > 16 / static_cast<int>(sizeof(T))) {
-        if (half / 2 < W) return recombineByWidth<Forward, W / 2>(from, to, half, zero, factors);
+    if constexpr (W * bytes < T >> 16) {
+        constexpr int enough = W * bytes<T> == 64 ? 4 * W : W;
+        if (half / 2 < enough) return recombineByWidth<Forward, W / 2>(from, to, half, zero, factors);
     }
     recombineVectors<Forward, W>(from, to, half, zero, factors);
 }
