@@ -63,13 +63,6 @@ struct Mirror {
     struct Down {
         constexpr int operator()(int i) const { return 3 - i; }
     };
-    // The latter from pairs.
-    struct RealDown {
-        constexpr int operator()(int i) const { return 2 * Down{}(i); }
-    };
-    struct ImaginaryDown {
-        constexpr int operator()(int i) const { return RealDown{}(i) + 1; }
-    };
     struct First {
         constexpr int operator()(int i) const { return i == 0 ? 0 : i + 3; }
     };
@@ -103,13 +96,11 @@ inline void inverseOf16(const T* pairs, T first, T last, T* dst, const T* factor
 {
     using V = Vec<T, 4>;
     using M = Mirror<V>;
-    const V a = load<4>(pairs + 6), b = load<4>(pairs + 10);
-    Cx<V> up = loadInOrder<4>(pairs);
-    Cx<V> down = {permute<typename M::RealDown>(a, b), permute<typename M::ImaginaryDown>(a, b)};
+    auto up = loadInOrder<4>(pairs), down = loadMirrored<4, 3>(pairs + 6);
     recombinePair<false>(up, down, loadInOrder<4>(smallRecombination<T, false, 4>.data() + 2));
     const Cx<V> ends = {splat<T, 4>(first + last), splat<T, 4>(first - last)};
-    const Cx<V> p = permuted<typename M::First>(ends, up), q = permuted<typename M::Second>(up, down);
-    Cx<V> x = {p.im, p.re}, y = {q.im, q.re};
+    const Cx<V> a = permuted<typename M::First>(ends, up), b = permuted<typename M::Second>(up, down);
+    Cx<V> x = {a.im, a.re}, y = {b.im, b.re};
     eightPoints<T>(x, y);
     if (factor) x = {x.re * *factor, x.im * *factor}, y = {y.re * *factor, y.im * *factor};
     storeInOrder<4>(dst, Cx<V>{x.im, x.re});

@@ -75,7 +75,7 @@ template <bool Forward, class V>
     b.im = -b.im;
 }
 
-// Complex pairs from and to memory, in order or with the lanes behind the first in the opposite one.
+// Complex pairs from and to memory.
 template <int W, class T>
 [[gnu::always_inline]] inline Cx<Vec<T, W>> loadInOrder(const T* p)
 {
@@ -91,11 +91,17 @@ template <int W, class T>
     store<W>(p + W, w.second);
 }
 
-template <int W, class T>
+// From and to memory in the opposite order, with pair First in lane 0 and the last one behind pair 0.
+template <int W, int First>
+struct Opposite {
+    constexpr int operator()(int i) const { return (First + W - i) % W; }
+};
+
+template <int W, int First, class T>
 [[gnu::always_inline]] inline Cx<Vec<T, W>> loadMirrored(const T* p)
 {
     struct Real {
-        constexpr int operator()(int i) const { return (W - i) % W * 2; }
+        constexpr int operator()(int i) const { return 2 * Opposite<W, First>{}(i); }
     };
     struct Imaginary {
         constexpr int operator()(int i) const { return Real{}(i) + 1; }
@@ -104,14 +110,14 @@ template <int W, class T>
     return {permute<Real>(a, b), permute<Imaginary>(a, b)};
 }
 
-template <int W, class T>
+template <int W, int First, class T>
 [[gnu::always_inline]] inline void storeMirrored(T* p, Cx<Vec<T, W>> v)
 {
     struct Low {
-        constexpr int operator()(int i) const { return (W - i / 2) % W + i % 2 * W; }
+        constexpr int operator()(int i) const { return Opposite<W, First>{}(i / 2) + i % 2 * W; }
     };
     struct High {
-        constexpr int operator()(int i) const { return W / 2 - i / 2 + i % 2 * W; }
+        constexpr int operator()(int i) const { return Low{}(i + W); }
     };
     store<W>(p, permute<Low>(v.re, v.im));
     store<W>(p + W, permute<High>(v.re, v.im));
@@ -177,30 +183,54 @@ template <bool Forward, class V>
         return {v.re + v.re, -v.im - v.im};
 }
 
-// W points at a time from the lower end and from the upper one. Vectors are read as the transform leaves them and
-// written as it takes them, because a load that spans two stores waits until both are in the cache. So the mirror of
-// lane 0 comes from the upper vector before.
+template <bool Forward, class T>
+inline void putMiddle(const T* from, T* to)
+{
+    const auto v = middle<Forward>(Cx<T>{from[0], from[1]});
+    to[0] = v.re;
+    to[1] = v.im;
+}
+
+// W points at a time from the lower end and from the upper one. Mirrors of points k to k + W - 1 stand in two vectors. A
+// load that spans two stores waits until both are in the cache; so short transforms take vectors as they were left and
+// as they will be taken, and the mirror of point k from the upper vector before. Where no single instruction puts those
+// together long transforms do better with the vector that spans two; how long, was measured.
 template <bool Forward, int W, class T, class Factors>
 [[gnu::always_inline]] inline void recombineVectors(const T* from, T* to, std::ptrdiff_t half, Cx<T> zero,
                                                     Factors factors)
 {
-    std::ptrdiff_t mirror = 2 * (half - W);
-    auto upper = loadMirrored<W>(from + mirror);
+    const std::ptrdiff_t quarter = half / 2;
+    const T* mirror = from + 2 * (half - W);
+    T* toMirror = to + 2 * (half - W);
+    auto upper = loadMirrored<W, 0>(mirror);
     auto x = loadInOrder<W>(from), y = upper;
     recombinePair<Forward>(x, y, factors.template vector<Forward, W>(0));
     storeInOrder<W>(to, withFirstLane({splat<T, W>(zero.re), splat<T, W>(zero.im)}, x));
-    for (std::ptrdiff_t k = W; k < half / 2; k += W) {
-        const auto next = loadMirrored<W>(from + mirror - 2 * W);
-        const auto done = y;
-        x = loadInOrder<W>(from + 2 * k);
-        y = withFirstLane(upper, next);
-        recombinePair<Forward>(x, y, factors.template vector<Forward, W>(k));
-        storeInOrder<W>(to + 2 * k, x);
-        storeMirrored<W>(to + mirror, withFirstLane(y, done));
-        upper = next;
-        mirror -= 2 * W;
+    if (vectorBytes == 64 || quarter <= vectorBytes / 8 * W) {
+        for (std::ptrdiff_t k = W; k < quarter; k += W, toMirror -= 2 * W) {
+            mirror -= 2 * W;
+            const auto next = loadMirrored<W, 0>(mirror);
+            const auto done = y;
+            x = loadInOrder<W>(from + 2 * k);
+            y = withFirstLane(upper, next);
+            recombinePair<Forward>(x, y, factors.template vector<Forward, W>(k));
+            storeInOrder<W>(to + 2 * k, x);
+            storeMirrored<W, 0>(toMirror, withFirstLane(y, done));
+            upper = next;
+        }
+        storeMirrored<W, 0>(toMirror, withFirstLane(middle<Forward>(upper), y));
+    } else {
+        storeMirrored<W, 0>(toMirror, withFirstLane(upper, y));
+        for (std::ptrdiff_t k = W; k < quarter; k += W) {
+            mirror -= 2 * W, toMirror -= 2 * W;
+            x = loadInOrder<W>(from + 2 * k);
+            y = loadMirrored<W, W - 1>(mirror + 2);
+            recombinePair<Forward>(x, y, factors.template vector<Forward, W>(k));
+            storeInOrder<W>(to + 2 * k, x);
+            storeMirrored<W, W - 1>(toMirror + 2, y);
+        }
+        putMiddle<Forward>(from + 2 * quarter, to + 2 * quarter);
     }
-    storeMirrored<W>(to + mirror, withFirstLane(middle<Forward>(upper), y));
 }
 
 // By the widest vectors of which half the points are enough. Transforms of fewer than four of 64 bytes leave and take
@@ -232,10 +262,7 @@ inline void recombine(int order, const T* from, T* to, Cx<T> zero, Factors facto
     }
     to[0] = zero.re;
     to[1] = zero.im;
-    if (quarter == 0) return;
-    const auto mid = middle<Forward>(Cx<T>{from[2 * quarter], from[2 * quarter + 1]});
-    to[2 * quarter] = mid.re;
-    to[2 * quarter + 1] = mid.im;
+    if (quarter > 0) putMiddle<Forward>(from + 2 * quarter, to + 2 * quarter);
 }
 
 } // namespace zors::ZORS_VARIANT
