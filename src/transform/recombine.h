@@ -191,10 +191,10 @@ inline void putMiddle(const T* from, T* to)
     to[1] = v.im;
 }
 
-// W points at a time from the lower end and from the upper one. Mirrors of points k to k + W - 1 stand in two vectors. A
-// load that spans two stores waits until both are in the cache; so short transforms take vectors as they were left and
-// as they will be taken, and the mirror of point k from the upper vector before. Where no single instruction puts those
-// together long transforms do better with the vector that spans two; how long, was measured.
+// W points at a time from the lower end and from the upper one. The mirrors of points k to k + W - 1 stand in two
+// vectors. A load that spans two stores waits until both are in the cache; so short transforms take vectors as they
+// were left and as they will be taken, and the mirror of point k from the upper vector before. Where no single
+// instruction puts those together long transforms do better with the vector that spans two; how long, was measured.
 template <bool Forward, int W, class T, class Factors>
 [[gnu::always_inline]] inline void recombineVectors(const T* from, T* to, std::ptrdiff_t half, Cx<T> zero,
                                                     Factors factors)
@@ -238,8 +238,9 @@ template <bool Forward, int W, class T, class Factors>
 template <bool Forward, int W, class T, class Factors>
 inline void recombineByWidth(const T* from, T* to, std::ptrdiff_t half, Cx<T> zero, Factors factors)
 {
-    if constexpr (W * bytes < T >> 16) {
-        constexpr int enough = W * bytes<T> == 64 ? 4 * W : W;
+    constexpr int size = W * static_cast<int>(sizeof(T));
+    if constexpr (size > 16) {
+        constexpr int enough = size == 64 ? 4 * W : W;
         if (half / 2 < enough) return recombineByWidth<Forward, W / 2>(from, to, half, zero, factors);
     }
     recombineVectors<Forward, W>(from, to, half, zero, factors);

@@ -109,8 +109,8 @@ inline void eightPoints(const Arrays& io, const T* factor)
     }
 }
 
-// 16 points in two vectors of eight, as pairs are taken apart inside blocks: lane 4 a + 2 b + c has point 4 b + 2 a + c.
-// Behind a step of radix 2 over the vectors these change places with b, then with a, then with c.
+// 16 points in two vectors of eight, as pairs are taken apart inside blocks: lane 4 a + 2 b + c has point
+// 4 b + 2 a + c. Behind a step of radix 2 over the vectors these change places with b, then with a, then with c.
 template <class T>
 inline constexpr std::array<T, 32> factorsOf16 = [] {
     std::array<T, 32> factors{};
