@@ -126,7 +126,7 @@ inline void blockedTransform(int order, const Arrays& io, Sink sink, T* memory, 
         turnIntoPanels<w>(one, work, n, factors);
     }
     for (std::ptrdiff_t b = 0; b < d.rows() / w; ++b) {
-        columns<w>(d.second, work.panel(b), one, sink(b * w), factors + 2 * at.secondColumns);
+        columns<w>(d.second, work.panel(b), work.panel(b), sink(b * w), factors + 2 * at.secondColumns);
     }
 }
 

@@ -1,28 +1,31 @@
 // Transforms of many columns at once: M rows of W columns become their M-point transforms, lane by lane, without
-// a shuffle, by passes of radix 4 to 16 (decimation in time). The first two sort themselves (Stockham's arrangement):
-// behind them, with l = product of the radices so far, row j M / l + g holds point j of the transform of every
-// M / l-th row from g on. The first one needs no factors and may write where it reads.
+// a shuffle, by passes of radix 4 to 16 (decimation in time). The first one takes rows from the source, M / R apart,
+// and needs no factors. The passes between the first and the last one leave their points where they find them, because
+// a line that is only changed goes through the caches once and not thrice.
 #pragma once
 
 #include "ports.h"
 #include "record.h"
 
+#include <cstdint>
+
 namespace zors::ZORS_VARIANT {
 
 // Radix 16 needs all of 32 registers for its points alone, so radix 8 is faster, with 16 and with 32. Measured. But a
-// first pass of 16, which has no factors, in the place of two of 4 saves a way through the data.
+// first pass of 16, which has no factors, in the place of two of 4 saves a way through short data.
 inline constexpr int mostLevels = 3;
 
-// How the levels of an M-point column, M = 2^m, m > 4, are divided among passes.
+// How the levels of an M-point column, M = 2^m, m > 4, are divided among passes. Of more than two at least the first one
+// is of radix 4: rows at a distance of a power of two share a set of the first cache, and beside four of the source and
+// four of the destination there are ways left for what the processor reads ahead.
 struct Passes {
     int m;
-    int count = (m + 1) / mostLevels;
+    int count = m > 7 ? m / mostLevels + 1 : 2;
 
-    // The first one may have a level more, or the last one a level less.
     constexpr int levels(int pass) const
     {
-        const int more = m - count * mostLevels;
-        return mostLevels + (pass == (more > 0 ? 0 : count - 1) ? more : 0);
+        if (count == 2) return (m + 1 - pass) / 2;
+        return mostLevels - (pass < count * mostLevels - m ? 1 : 0);
     }
 };
 
@@ -74,28 +77,44 @@ template <int W, class T, class In, class Out>
         butterflies<8, W, false>(in, from, out, to, count, factors, 1);
 }
 
+// Whether a pass from low addresses to high ones would load next what looks like that which it has just stored: by the
+// place in a page, as a processor does that holds loads back behind stores still under way. It takes up to three times
+// as long then, and not the other way round.
+inline bool meetsForwards(const void* in, const void* out)
+{
+    constexpr std::uintptr_t page = 4096;
+    const std::uintptr_t ahead =
+        (reinterpret_cast<std::uintptr_t>(out) - reinterpret_cast<std::uintptr_t>(in)) % page;
+    return 0 < ahead && ahead < page / 2;
+}
+
 // The first pass, without factors, over columns of 2^levels groups rows.
 template <int W, class T, class In, class Out>
 [[gnu::noinline]] void firstPass(int levels, In in, Out out, std::ptrdiff_t groups)
 {
-    const Places places{1, groups};
+    const bool back = meetsForwards(in.address(), out.address());
+    const std::ptrdiff_t first = back ? groups - 1 : 0;
+    const In from = in.every(1, first);
+    const Out to = out.every(1, first);
+    const Places places{back ? -1 : 1, groups};
     const T* const none = nullptr;
-    if (levels > mostLevels)
-        butterflies<16, W, true>(in, places, out, places, groups, none, 0);
+    if (levels == 2)
+        butterflies<4, W, true>(from, places, to, places, groups, none, 0);
+    else if (levels == 3)
+        butterflies<8, W, true>(from, places, to, places, groups, none, 0);
     else
-        butterflies<8, W, true>(in, places, out, places, groups, none, 0);
+        butterflies<16, W, true>(from, places, to, places, groups, none, 0);
 }
 
-// Where a transform stands between two passes. Passes behind the first two leave their points where they find them,
-// because that takes fewer lines through the caches: only so many points as stand together are in order, each so many
-// rows apart from the one before.
+// Where a transform stands between two passes: its rows are in blocks, one for each point k of those that are done.
+// The digits of k, lowest first, are those of the block, highest first.
 template <class T>
 struct Progress {
     Passes passes;
-    std::ptrdiff_t groups; // rows over the product of the radices so far
+    std::ptrdiff_t groups; // rows of a block
     const T* factors;
     int pass = 0;
-    std::ptrdiff_t done = 1, together = 1, apart = 0;
+    std::ptrdiff_t done = 1;
 
     Progress(int m, const T* f) : passes{m}, groups(std::ptrdiff_t{1} << m), factors(f) {}
     bool isLast() const { return pass == passes.count - 1; }
@@ -106,22 +125,33 @@ struct Progress {
         done <<= levels();
         groups >>= levels();
         ++pass;
-        if (pass <= 2) together = done, apart = groups;
     }
-    // The first of the rows of point k of all that are done.
+    std::ptrdiff_t pointOf(std::ptrdiff_t block) const
+    {
+        std::ptrdiff_t k = 0;
+        for (int p = pass - 1; p >= 0; --p) k = moveDigit(block, k, p);
+        return k;
+    }
     std::ptrdiff_t rowOf(std::ptrdiff_t k) const
     {
-        std::ptrdiff_t row = (k & (together - 1)) * apart, distance = apart;
-        int below = passes.levels(0) + passes.levels(1);
-        for (int p = 2; p < pass; ++p) {
-            const int levels = passes.levels(p);
-            distance >>= levels;
-            row += (k >> below & ((1 << levels) - 1)) * distance;
-            below += levels;
-        }
-        return row;
+        std::ptrdiff_t block = 0;
+        for (int p = 0; p < pass; ++p) block = moveDigit(k, block, p);
+        return block * groups;
     }
+    // Points that follow one another, and the rows between them.
+    std::ptrdiff_t together() const { return std::ptrdiff_t{1} << passes.levels(0); }
+    std::ptrdiff_t apart() const { return std::ptrdiff_t{1} << (passes.m - passes.levels(0)); }
     const T* factorsOf(std::ptrdiff_t k) const { return factors + 2 * k * ((1 << levels()) - 1); }
+
+private:
+    // The lowest digit of one number to the lower end of the other.
+    std::ptrdiff_t moveDigit(std::ptrdiff_t& from, std::ptrdiff_t to, int p) const
+    {
+        const int levels = passes.levels(p);
+        const std::ptrdiff_t digit = from & ((1 << levels) - 1);
+        from >>= levels;
+        return to << levels | digit;
+    }
 };
 
 // Both passes of two.
@@ -135,52 +165,49 @@ inline void twoPasses(int m, In in, Between between, Out out, const T* factors)
     pass<W>(passes.levels(1), between, second, out, first, first, factors);
 }
 
-// The first two passes at once, by the rows that depend on one another: every n-th, few enough for the first cache.
-template <int W, class T, class In>
-inline void firstTwoPasses(Progress<T>& at, In in, Rows<T, W> out)
-{
-    alignas(lineBytes) T memory[2 * W << (2 * mostLevels + 1)];
-    const Rows<T, W> few{memory};
-    const int both = at.levels() + at.passes.levels(1);
-    const T* factors = at.factors;
-    at.step();
-    at.step();
-    for (std::ptrdiff_t g = 0; g < at.groups; ++g)
-        twoPasses<W>(both, in.every(at.groups, g), few, out.every(at.groups, g), factors);
-}
-
-// A pass between the first two and the last one, which alone may be of a smaller radix.
+// A pass between the first and the last one.
 template <int W, class T>
 [[gnu::noinline]] void passInPlace(const Progress<T>& at, Rows<T, W> own)
 {
-    constexpr int radix = 1 << mostLevels;
-    const std::ptrdiff_t groups = at.groups / radix;
+    const int levels = at.levels();
+    const std::ptrdiff_t groups = at.groups >> levels;
     const Places places{1, groups};
-    for (std::ptrdiff_t j = 0; j < at.together; ++j)
-        for (std::ptrdiff_t k = j; k < at.done; k += at.together) {
-            const auto rows = own.every(1, at.rowOf(k));
-            butterflies<radix, W, false>(rows, places, rows, places, groups, at.factorsOf(k), 0);
-        }
+    for (std::ptrdiff_t block = 0; block < at.done; ++block) {
+        const auto rows = own.every(1, block * at.groups);
+        const T* const factors = at.factorsOf(at.pointOf(block));
+        if (levels == 2)
+            butterflies<4, W, false>(rows, places, rows, places, groups, factors, 0);
+        else
+            butterflies<8, W, false>(rows, places, rows, places, groups, factors, 0);
+    }
 }
 
 // All passes but the last, of three or more; their rows are left in own.
 template <int W, class T, class In>
 inline void allButLast(Progress<T>& at, In in, Rows<T, W> own)
 {
-    firstTwoPasses<W>(at, in, own);
-    for (; !at.isLast(); at.step()) passInPlace<W>(at, own);
+    firstPass<W, T>(at.levels(), in, own, at.groups >> at.levels());
+    for (at.step(); !at.isLast(); at.step()) passInPlace<W>(at, own);
 }
 
-// All passes, two or more, by way of own, which may be where the input is, but not where the result goes.
+// The last pass of points k to k + count - 1 of those that are done.
+template <int W, class T, class Out>
+inline void lastPass(const Progress<T>& at, Rows<T, W> own, std::ptrdiff_t k, std::ptrdiff_t count, Out out,
+                     std::ptrdiff_t stride)
+{
+    const std::ptrdiff_t some = at.together() < count ? at.together() : count;
+    for (std::ptrdiff_t i = 0; i < count; i += some)
+        pass<W>(at.levels(), own.every(1, at.rowOf(k + i)), at.apart(), out.every(1, i), stride, some,
+                at.factorsOf(k + i));
+}
+
+// All passes, three or more, by way of own, which may be where the input is, but not where the result goes.
 template <int W, class T, class In, class Out>
 inline void columns(int m, In in, Rows<T, W> own, Out out, const T* factors)
 {
     Progress<T> at(m, factors);
-    if (at.passes.count == 2) return twoPasses<W>(m, in, own, out, factors);
     allButLast<W>(at, in, own);
-    for (std::ptrdiff_t k = 0; k < at.done; k += at.together)
-        pass<W>(at.levels(), own.every(1, at.rowOf(k)), at.apart, out.every(1, k), at.done, at.together,
-                at.factorsOf(k));
+    lastPass<W>(at, own, 0, at.done, out, at.done);
 }
 
 } // namespace zors::ZORS_VARIANT

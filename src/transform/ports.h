@@ -66,6 +66,7 @@ struct Rows {
     {
         return {{p + row * 2 * W}};
     }
+    const T* address() const { return p; }
     Rows every(std::ptrdiff_t step, std::ptrdiff_t first) const
     {
         return {p + first * numbers, step * numbers};
@@ -117,6 +118,7 @@ struct Apart {
     {
         return {{re + row * W}, {im + row * W}};
     }
+    const T* address() const { return re; }
     Apart every(std::ptrdiff_t step, std::ptrdiff_t first) const
     {
         return {re + first * numbers, im + first * numbers, step * numbers};
@@ -177,6 +179,7 @@ struct Pairs {
     {
         return {{p + row * 2 * W}};
     }
+    const T* address() const { return p; }
     Pairs every(std::ptrdiff_t step, std::ptrdiff_t first) const
     {
         return {p + first * numbers, step * numbers};

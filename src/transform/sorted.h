@@ -33,7 +33,7 @@ inline void lastPassAndTurn(const Progress<T>& at, Rows<T, W> in, Out out, const
     const Rows<T, W> rows{memory};
     const std::ptrdiff_t blocks = at.done / W, all = blocks << at.levels();
     for (std::ptrdiff_t k = 0; k < at.done; k += count) {
-        pass<W>(at.levels(), in.every(1, at.rowOf(k)), at.apart, rows, count, count, at.factorsOf(k));
+        lastPass<W>(at, in, k, count, rows, count);
         turn<W, few>(rows, out, all, k / W, blocks, factors);
     }
 }
