@@ -64,7 +64,11 @@ struct BlockedWork {
     T* memory;
     std::ptrdiff_t panelNumbers = 2 * W * (d.columns() + 1);
 
-    Rows<T, W> panel(std::ptrdiff_t b) const { return {memory + b * panelNumbers}; }
+    template <class Store = Cached>
+    Rows<T, W, Store> panel(std::ptrdiff_t b) const
+    {
+        return {memory + b * panelNumbers};
+    }
     Rows<T, W> block(int which) const
     {
         T* behindPanels = memory + d.rows() / W * panelNumbers;
@@ -82,7 +86,7 @@ constexpr std::int64_t blockedWorkBytes(int order)
 }
 
 // Columns n to n + W - 1 of the transformed block as rows n and following of every panel.
-template <int W, class T>
+template <int W, class Store, class T>
 [[gnu::noinline]] void turnIntoPanels(Rows<T, W> in, const BlockedWork<T, W>& work, std::ptrdiff_t n,
                                       const T* factors)
 {
@@ -101,7 +105,7 @@ template <int W, class T>
         }
         transpose(re);
         transpose(im);
-        const auto to = work.panel(k / W).template from<W>(n, one);
+        const auto to = work.template panel<Store>(k / W).template from<W>(n, one);
         const T* scalar = scalars + 2 * factorGroup * (k / factorGroup);
 #pragma GCC unroll 16
         for (int t = 0; t < W; ++t) {
@@ -113,20 +117,54 @@ template <int W, class T>
     }
 }
 
-template <class T, class Arrays, class Sink>
-inline void blockedTransform(int order, const Arrays& io, Sink sink, T* memory, const T* factors)
+// A result of this many bytes is written past the caches, and so are its panels. Measured: they do not stay in the last
+// level beside one another, and what is stored through it is read first.
+inline constexpr std::int64_t firstUncachedBytes = std::int64_t{8} << 20;
+
+// The first pass over memory.
+template <class Store, class T, class Arrays>
+inline void transformIntoPanels(const Arrays& io, const BlockedWork<T, lanes<T>>& work, const T* factors)
 {
     constexpr int w = lanes<T>;
-    const Division d{order};
-    const BlockedFactors at{d};
-    const BlockedWork<T, w> work{d, memory};
+    const Division d = work.d;
     const Rows<T, w> one = work.block(0), other = work.block(1);
+    const T* ofColumns = factors + 2 * BlockedFactors{d}.firstColumns;
     for (std::ptrdiff_t n = 0; n < d.columns(); n += w) {
-        columns<w>(d.first, io.template source<w>(d.columns(), n), other, one, factors + 2 * at.firstColumns);
-        turnIntoPanels<w>(one, work, n, factors);
+        columns<w>(d.first, io.template source<w>(d.columns(), n), other, one, ofColumns);
+        turnIntoPanels<w, Store>(one, work, n, factors);
     }
+}
+
+// The second one. The multiplication hides behind the stores, so that there is one even where the factor is 1.
+template <class Store, class T, class Arrays>
+inline void transformPanels(const Arrays& io, const BlockedWork<T, lanes<T>>& work, T factor,
+                            const T* factors)
+{
+    constexpr int w = lanes<T>;
+    const Division d = work.d;
+    const T* ofColumns = factors + 2 * BlockedFactors{d}.secondColumns;
     for (std::ptrdiff_t b = 0; b < d.rows() / w; ++b) {
-        columns<w>(d.second, work.panel(b), work.panel(b), sink(b * w), factors + 2 * at.secondColumns);
+        const auto sink = io.template sink<w, Store>(d.rows(), b * w);
+        columns<w>(d.second, work.panel(b), work.panel(b), Scaled<T, decltype(sink)>{sink, factor},
+                   ofColumns);
+    }
+}
+
+template <class T, class Arrays>
+inline void blockedTransform(int order, const Arrays& io, const T* factor, T* memory, const T* factors)
+{
+    const BlockedWork<T, lanes<T>> work{Division{order}, memory};
+    const T scale = factor ? *factor : T{1};
+    if ((2 * bytes<T> << order) < firstUncachedBytes) {
+        transformIntoPanels<Cached>(io, work, factors);
+        transformPanels<Cached>(io, work, scale, factors);
+    } else {
+        transformIntoPanels<Uncached>(io, work, factors);
+        if (io.isAligned(vectorBytes))
+            transformPanels<Uncached>(io, work, scale, factors);
+        else
+            transformPanels<Cached>(io, work, scale, factors);
+        streamFence();
     }
 }
 

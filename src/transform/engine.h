@@ -69,22 +69,6 @@ inline void sortedTransform(int order, const Arrays& io, const T* factor, T* wor
     }
 }
 
-template <class T, class Arrays>
-inline void blockedTransform(int order, const Arrays& io, const T* factor, T* work, const T* factors)
-{
-    constexpr int w = lanes<T>;
-    const std::ptrdiff_t rows = Division{order}.rows();
-    const auto sink = [&](std::ptrdiff_t first) { return io.template sink<w>(rows, first); };
-    if (factor) {
-        const auto scaled = [&](std::ptrdiff_t first) {
-            return Scaled<T, decltype(sink(first))>{sink(first), *factor};
-        };
-        blockedTransform(order, io, scaled, work, factors);
-    } else {
-        blockedTransform(order, io, sink, work, factors);
-    }
-}
-
 // Multiplies by the factor where there is one. The tables are those of spec, which may be of a longer transform.
 template <class T, class Arrays>
 [[gnu::noinline]] void complexTransform(const FloatRecord<T>& spec, int tableOrder, int order,

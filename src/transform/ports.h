@@ -8,6 +8,8 @@
 #include "simd/memory.h"
 #include "simd/transpose.h"
 
+#include <cstdint>
+
 namespace zors::ZORS_VARIANT {
 
 // Results of the last pass have their lanes in this order, in which pairs are put together inside blocks of 16 bytes.
@@ -34,12 +36,28 @@ struct AsRows {
     constexpr int operator()(int lane) const { return rowOfLane<T, W>(lane); }
 };
 
+// How a destination stores: as usual, or past the caches, to whole vectors at addresses aligned to their width.
+struct Cached {
+    template <int W, class T>
+    [[gnu::always_inline]] static void put(T* p, Vec<T, W> v)
+    {
+        store<W>(p, v);
+    }
+};
+struct Uncached {
+    template <int W, class T>
+    [[gnu::always_inline]] static void put(T* p, Vec<T, W> v)
+    {
+        storeStreaming<W>(p, v);
+    }
+};
+
 // A port is asked for some rows at once: from<R>(row, stride) are R rows, row, row + n, ..., where stride(n) is that
 // distance in memory; closeFrom<n>(row) are the same where rows follow one another without a gap. every(n, row) is a
 // port to every n-th row.
 
 // In one array, vectors of real and of imaginary parts taking turns.
-template <class T, int W>
+template <class T, int W, class Store = Cached>
 struct Rows {
     T* p;
     std::ptrdiff_t numbers = 2 * W; // from row to row
@@ -51,8 +69,8 @@ struct Rows {
         [[gnu::always_inline]] Cx<Vec<T, W>> get(int i) const { return {load<W>(at[i]), load<W>(at[i] + W)}; }
         [[gnu::always_inline]] void put(int i, Cx<Vec<T, W>> v) const
         {
-            store<W>(at[i], v.re);
-            store<W>(at[i] + W, v.im);
+            Store::template put<W>(at[i], v.re);
+            Store::template put<W>(at[i] + W, v.im);
         }
     };
     Stride stride(std::ptrdiff_t rows) const { return Stride(rows * numbers * std::ptrdiff_t{sizeof(T)}); }
@@ -73,8 +91,8 @@ struct Rows {
     }
 };
 
-// In two arrays. The distance of rows is that of two columns. Order is for sources.
-template <class T, int W, class Order = InOrder>
+// In two arrays. The distance of rows is that of two columns. Order is for sources, Store for destinations.
+template <class T, int W, class Order = InOrder, class Store = Cached>
 struct Apart {
     T* re;
     T* im;
@@ -90,8 +108,8 @@ struct Apart {
         }
         [[gnu::always_inline]] void put(int i, Cx<Vec<T, W>> v) const
         {
-            store<W>(re[i], v.re);
-            store<W>(im[i], v.im);
+            Store::template put<W>(re[i], v.re);
+            Store::template put<W>(im[i], v.im);
         }
         [[gnu::always_inline]] void putTurned(int i, Cx<Vec<T, W>> v) const
         {
@@ -126,7 +144,7 @@ struct Apart {
 };
 
 // Complex pairs. Swapped exchanges the parts, which turns the forward transform into the inverse.
-template <class T, int W, bool Swapped, class Order = InOrder>
+template <class T, int W, bool Swapped, class Order = InOrder, class Store = Cached>
 struct Pairs {
     T* p;
     std::ptrdiff_t numbers; // from row to row
@@ -143,8 +161,8 @@ struct Pairs {
         [[gnu::always_inline]] void put(int i, Cx<Vec<T, W>> v) const
         {
             const auto w = Swapped ? interleave(v.im, v.re) : interleave(v.re, v.im);
-            store<W>(at[i], w.first);
-            store<W>(at[i] + W, w.second);
+            Store::template put<W>(at[i], w.first);
+            Store::template put<W>(at[i] + W, w.second);
         }
         [[gnu::always_inline]] void putTurned(int i, Cx<Vec<T, W>> v) const
         {
@@ -258,11 +276,12 @@ struct PairedArrays {
     {
         return {const_cast<T*>(src) + 2 * first, 2 * stride};
     }
-    template <int W>
-    Pairs<T, W, Swapped> sink(std::ptrdiff_t stride = W, std::ptrdiff_t first = 0) const
+    template <int W, class Store = Cached>
+    Pairs<T, W, Swapped, InOrder, Store> sink(std::ptrdiff_t stride = W, std::ptrdiff_t first = 0) const
     {
         return {dst + 2 * first, 2 * stride};
     }
+    bool isAligned(std::size_t to) const { return reinterpret_cast<std::uintptr_t>(dst) % to == 0; }
     // The destination as room for rows of any kind.
     template <int W>
     Rows<T, W> room() const
@@ -290,10 +309,14 @@ struct SplitArrays {
     {
         return {const_cast<T*>(srcRe) + first, const_cast<T*>(srcIm) + first, stride};
     }
-    template <int W>
-    Apart<T, W> sink(std::ptrdiff_t stride = W, std::ptrdiff_t first = 0) const
+    template <int W, class Store = Cached>
+    Apart<T, W, InOrder, Store> sink(std::ptrdiff_t stride = W, std::ptrdiff_t first = 0) const
     {
         return {dstRe + first, dstIm + first, stride};
+    }
+    bool isAligned(std::size_t to) const
+    {
+        return (reinterpret_cast<std::uintptr_t>(dstRe) | reinterpret_cast<std::uintptr_t>(dstIm)) % to == 0;
     }
     template <int W>
     Apart<T, W> room() const
