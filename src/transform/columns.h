@@ -15,17 +15,21 @@ namespace zors::ZORS_VARIANT {
 // first pass of 16, which has no factors, in the place of two of 4 saves a way through short data.
 inline constexpr int mostLevels = 3;
 
-// How the levels of an M-point column, M = 2^m, m > 4, are divided among passes. Of more than two at least the first one
-// is of radix 4: rows at a distance of a power of two share a set of the first cache, and beside four of the source and
-// four of the destination there are ways left for what the processor reads ahead.
+// How the levels of an M-point column, M = 2^m, m > 4, are divided among passes. Where rows of native vectors are more
+// than the first cache holds beside another buffer, the first pass is of radix 4: rows at a distance of a power of two
+// share a set of that cache, and beside four of the source and four of the destination there are ways left for what the
+// processor reads ahead.
 struct Passes {
     int m;
-    int count = m > 7 ? m / mostLevels + 1 : 2;
+    bool isLong = 2 * ZORS_VECTOR_BYTES << m > 16 << 10;
+    int count = (m + (isLong ? mostLevels : 1)) / mostLevels;
 
     constexpr int levels(int pass) const
     {
-        if (count == 2) return (m + 1 - pass) / 2;
-        return mostLevels - (pass < count * mostLevels - m ? 1 : 0);
+        const int more = m - count * mostLevels;
+        if (isLong) return mostLevels - (pass < -more ? 1 : 0);
+        // The first one may have a level more, or the last one a level less.
+        return mostLevels + (pass == (more > 0 ? 0 : count - 1) ? more : 0);
     }
 };
 
@@ -77,6 +81,18 @@ template <int W, class T, class In, class Out>
         butterflies<8, W, false>(in, from, out, to, count, factors, 1);
 }
 
+// The first pass, without factors, over columns of 2^levels groups rows.
+template <int W, class T, class In, class Out>
+[[gnu::noinline]] void firstPass(int levels, In in, Out out, std::ptrdiff_t groups)
+{
+    const Places places{1, groups};
+    const T* const none = nullptr;
+    if (levels > mostLevels)
+        butterflies<16, W, true>(in, places, out, places, groups, none, 0);
+    else
+        butterflies<8, W, true>(in, places, out, places, groups, none, 0);
+}
+
 // Whether a pass from low addresses to high ones would load next what looks like that which it has just stored: by the
 // place in a page, as a processor does that holds loads back behind stores still under way. It takes up to three times
 // as long then, and not the other way round.
@@ -88,22 +104,15 @@ inline bool meetsForwards(const void* in, const void* out)
     return 0 < ahead && ahead < page / 2;
 }
 
-// The first pass, without factors, over columns of 2^levels groups rows.
+// The same over long columns.
 template <int W, class T, class In, class Out>
-[[gnu::noinline]] void firstPass(int levels, In in, Out out, std::ptrdiff_t groups)
+[[gnu::noinline]] void firstLongPass(In in, Out out, std::ptrdiff_t groups)
 {
     const bool back = meetsForwards(in.address(), out.address());
-    const std::ptrdiff_t first = back ? groups - 1 : 0;
-    const In from = in.every(1, first);
-    const Out to = out.every(1, first);
-    const Places places{back ? -1 : 1, groups};
+    const std::ptrdiff_t step = back ? -1 : 1, first = back ? groups - 1 : 0;
+    const Places places{1, step * groups};
     const T* const none = nullptr;
-    if (levels == 2)
-        butterflies<4, W, true>(from, places, to, places, groups, none, 0);
-    else if (levels == 3)
-        butterflies<8, W, true>(from, places, to, places, groups, none, 0);
-    else
-        butterflies<16, W, true>(from, places, to, places, groups, none, 0);
+    butterflies<4, W, true>(in.every(step, first), places, out.every(step, first), places, groups, none, 0);
 }
 
 // Where a transform stands between two passes: its rows are in blocks, one for each point k of those that are done.
@@ -186,7 +195,11 @@ template <int W, class T>
 template <int W, class T, class In>
 inline void allButLast(Progress<T>& at, In in, Rows<T, W> own)
 {
-    firstPass<W, T>(at.levels(), in, own, at.groups >> at.levels());
+    const std::ptrdiff_t groups = at.groups >> at.levels();
+    if (at.passes.isLong)
+        firstLongPass<W, T>(in, own, groups);
+    else
+        firstPass<W, T>(at.levels(), in, own, groups);
     for (at.step(); !at.isLast(); at.step()) passInPlace<W>(at, own);
 }
 
