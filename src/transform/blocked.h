@@ -130,7 +130,7 @@ inline void transformIntoPanels(const Arrays& io, const BlockedWork<T, lanes<T>>
     const Rows<T, w> one = work.block(0), other = work.block(1);
     const T* ofColumns = factors + 2 * BlockedFactors{d}.firstColumns;
     for (std::ptrdiff_t n = 0; n < d.columns(); n += w) {
-        columns<w>(d.first, io.template source<w>(d.columns(), n), other, one, ofColumns);
+        longColumns<w>(d.first, io.template source<w>(d.columns(), n), other, one, ofColumns);
         turnIntoPanels<w, Store>(one, work, n, factors);
     }
 }
@@ -145,8 +145,8 @@ inline void transformPanels(const Arrays& io, const BlockedWork<T, lanes<T>>& wo
     const T* ofColumns = factors + 2 * BlockedFactors{d}.secondColumns;
     for (std::ptrdiff_t b = 0; b < d.rows() / w; ++b) {
         const auto sink = io.template sink<w, Store>(d.rows(), b * w);
-        columns<w>(d.second, work.panel(b), work.panel(b), Scaled<T, decltype(sink)>{sink, factor},
-                   ofColumns);
+        longColumns<w>(d.second, work.panel(b), work.panel(b), Scaled<T, decltype(sink)>{sink, factor},
+                       ofColumns);
     }
 }
 

@@ -15,13 +15,12 @@ namespace zors::ZORS_VARIANT {
 // first pass of 16, which has no factors, in the place of two of 4 saves a way through short data.
 inline constexpr int mostLevels = 3;
 
-// How the levels of an M-point column, M = 2^m, m > 4, are divided among passes. Where rows of native vectors are more
-// than the first cache holds beside another buffer, the first pass is of radix 4: rows at a distance of a power of two
-// share a set of that cache, and beside four of the source and four of the destination there are ways left for what the
-// processor reads ahead.
+// How the levels of an M-point column, M = 2^m, m > 4, are divided among passes. Where its rows are more than half of a
+// first cache, the first pass is of radix 4: rows at a distance of a power of two share a set of that cache, and beside
+// four of the source and four of the destination there are ways left for what the processor reads ahead.
 struct Passes {
     int m;
-    bool isLong = 2 * ZORS_VECTOR_BYTES << m > 16 << 10;
+    bool isLong = m > (ZORS_VECTOR_BYTES == 64 ? 7 : 8);
     int count = (m + (isLong ? mostLevels : 1)) / mostLevels;
 
     constexpr int levels(int pass) const
@@ -128,6 +127,8 @@ struct Progress {
     Progress(int m, const T* f) : passes{m}, groups(std::ptrdiff_t{1} << m), factors(f) {}
     bool isLast() const { return pass == passes.count - 1; }
     int levels() const { return passes.levels(pass); }
+    // Butterflies of a block in the pass that follows.
+    std::ptrdiff_t butterfliesOfBlock() const { return groups >> levels(); }
     void step()
     {
         if (pass > 0) factors += 2 * done * ((1 << levels()) - 1);
@@ -179,7 +180,7 @@ template <int W, class T>
 [[gnu::noinline]] void passInPlace(const Progress<T>& at, Rows<T, W> own)
 {
     const int levels = at.levels();
-    const std::ptrdiff_t groups = at.groups >> levels;
+    const std::ptrdiff_t groups = at.butterfliesOfBlock();
     const Places places{1, groups};
     for (std::ptrdiff_t block = 0; block < at.done; ++block) {
         const auto rows = own.every(1, block * at.groups);
@@ -191,15 +192,10 @@ template <int W, class T>
     }
 }
 
-// All passes but the last, of three or more; their rows are left in own.
-template <int W, class T, class In>
-inline void allButLast(Progress<T>& at, In in, Rows<T, W> own)
+// All passes between the first and the last one.
+template <int W, class T>
+inline void passesInPlace(Progress<T>& at, Rows<T, W> own)
 {
-    const std::ptrdiff_t groups = at.groups >> at.levels();
-    if (at.passes.isLong)
-        firstLongPass<W, T>(in, own, groups);
-    else
-        firstPass<W, T>(at.levels(), in, own, groups);
     for (at.step(); !at.isLast(); at.step()) passInPlace<W>(at, own);
 }
 
@@ -214,12 +210,13 @@ inline void lastPass(const Progress<T>& at, Rows<T, W> own, std::ptrdiff_t k, st
                 at.factorsOf(k + i));
 }
 
-// All passes, three or more, by way of own, which may be where the input is, but not where the result goes.
+// All passes over long columns, by way of own, which may be where the input is, but not where the result goes.
 template <int W, class T, class In, class Out>
-inline void columns(int m, In in, Rows<T, W> own, Out out, const T* factors)
+inline void longColumns(int m, In in, Rows<T, W> own, Out out, const T* factors)
 {
     Progress<T> at(m, factors);
-    allButLast<W>(at, in, own);
+    firstLongPass<W, T>(in, own, at.butterfliesOfBlock());
+    passesInPlace<W>(at, own);
     lastPass<W>(at, own, 0, at.done, out, at.done);
 }
 

@@ -28,7 +28,7 @@ constexpr int log2Of(int powerOfTwo)
 template <int W, class T, class Out>
 inline void lastPassAndTurn(const Progress<T>& at, Rows<T, W> in, Out out, const T* factors)
 {
-    constexpr int few = W < 8 ? 8 / W : 1, count = few * W;
+    constexpr int few = W < 16 && !turnsHalves<T>(W) ? 16 / W : 1, count = few * W;
     alignas(lineBytes) T memory[2 * W * count << mostLevels];
     const Rows<T, W> rows{memory};
     const std::ptrdiff_t blocks = at.done / W, all = blocks << at.levels();
@@ -122,7 +122,11 @@ inline void inPasses(int order, In in, Out out, Room room, T* work, const T* fac
         turn<W>(own, out, (std::ptrdiff_t{1} << m) / W, 0, 1, factors);
     } else {
         Progress<T> at(m, ofColumns);
-        allButLast<W>(at, in, own);
+        if (at.passes.isLong)
+            firstLongPass<W, T>(in, own, at.butterfliesOfBlock());
+        else
+            firstPass<W, T>(at.levels(), in, own, at.butterfliesOfBlock());
+        passesInPlace<W>(at, own);
         lastPassAndTurn<W>(at, own, out, factors);
     }
 }
