@@ -2,6 +2,7 @@
 // buffer and where it stands, the hint.
 #include "transform/samples.h"
 
+#include <cstdint>
 #include <cstring>
 #include <gtest/gtest.h>
 
@@ -42,6 +43,29 @@ TEST(Values, DoNotDependOnPlaceAndBuffer)
                 if (!t.runInPlace) continue;
                 ASSERT_EQ(t.runInPlace(src, spec.get(), order, 2, buffer), zorStsOk);
                 EXPECT_EQ(std::memcmp(src, expected.get(), outBytes), 0) << "in place";
+            }
+        }
+}
+
+// Passes go forwards or backwards by the place of the work buffer in a page beside that of the source.
+TEST(Values, DoNotDependOnPlaceInPage)
+{
+    constexpr std::uintptr_t page = 4096;
+    Random random;
+    for (const Transform& t : transforms())
+        for (const int order : {8, 11, 12, 14}) {
+            const Spec spec(*t.kind, order, ZOR_FFT_SCALE_NONE);
+            const Memory in = randomInput(t, order, random),
+                         expected = resultOf(t, order, in, ZOR_FFT_SCALE_NONE);
+            Memory work(static_cast<std::size_t>(sizesOf(*t.kind, order).work) + page),
+                out(t.out.bytes(order));
+            const auto source = reinterpret_cast<std::uintptr_t>(in.get());
+            const auto room = reinterpret_cast<std::uintptr_t>(work.get());
+            for (const std::uintptr_t ahead : {0U, 64U, 1024U, 2048U, 4032U}) {
+                auto* buffer = static_cast<Zor8u*>(work.get()) + (source + ahead - room) % page;
+                ASSERT_EQ(t.run(in.get(), out.get(), spec.get(), order, 2, buffer), zorStsOk);
+                EXPECT_EQ(std::memcmp(out.get(), expected.get(), t.out.bytes(order)), 0)
+                    << t.name << ", order " << order << ", work buffer ahead by " << ahead;
             }
         }
 }
