@@ -15,9 +15,10 @@ namespace zors::ZORS_VARIANT {
 // first pass of 16, which has no factors, in the place of two of 4 saves a way through short data.
 inline constexpr int mostLevels = 3;
 
-// How the levels of an M-point column, M = 2^m, m > 4, are divided among passes. Where its rows are more than half of a
-// first cache, the first pass is of radix 4: rows at a distance of a power of two share a set of that cache, and beside
-// four of the source and four of the destination there are ways left for what the processor reads ahead.
+// How the levels of an M-point column, M = 2^m, m > 4, are divided among passes. In long columns, of more than 128 rows
+// or, with narrower vectors, 256, the first pass is of radix 4: rows at a distance of a power of two share a set of the
+// first cache, and beside four of the source and four of the destination there are ways left for what the processor
+// reads ahead.
 struct Passes {
     int m;
     bool isLong = m > (ZORS_VECTOR_BYTES == 64 ? 7 : 8);

@@ -28,7 +28,7 @@ constexpr int log2Of(int powerOfTwo)
 template <int W, class T, class Out>
 inline void lastPassAndTurn(const Progress<T>& at, Rows<T, W> in, Out out, const T* factors)
 {
-    constexpr int few = W < 16 && !turnsHalves<T>(W) ? 16 / W : 1, count = few * W;
+    constexpr int few = turnsHalves<T>(W) ? 1 : 16 / W, count = few * W;
     alignas(lineBytes) T memory[2 * W * count << mostLevels];
     const Rows<T, W> rows{memory};
     const std::ptrdiff_t blocks = at.done / W, all = blocks << at.levels();
