@@ -5,6 +5,12 @@
  */
 #include <zortypes.h>
 
+#include <zors/filter/fir.h>
+#include <zors/filter/fir_direct.h>
+#include <zors/filter/fir_multirate.h>
+#include <zors/filter/fir_multirate_direct.h>
+#include <zors/filter/fir_state.h>
+
 #include <zors/frame/memory.h>
 #include <zors/frame/version.h>
 

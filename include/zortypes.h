@@ -171,6 +171,27 @@ typedef struct ZorsFFTSpec_R_32s ZorsFFTSpec_R_32s;       /**< real `32s` */
 typedef struct ZorsFFTSpec_R_16s32s ZorsFFTSpec_R_16s32s; /**< real `16s`, spectrum `32s` */
 /** @} */
 
+/** @name Records of finite impulse response filters
+ * Opaque, one type for each pair of taps and data: of single-rate, multi-rate and stream filters alike.
+ * @{
+ */
+typedef struct ZorsFIRState_32f ZorsFIRState_32f;           /**< `32f` */
+typedef struct ZorsFIRState_32fc ZorsFIRState_32fc;         /**< `32fc` */
+typedef struct ZorsFIRState32f_16s ZorsFIRState32f_16s;     /**< `32f` taps, `16s` data */
+typedef struct ZorsFIRState32fc_16sc ZorsFIRState32fc_16sc; /**< `32fc` taps, `16sc` data */
+typedef struct ZorsFIRState32s_16s ZorsFIRState32s_16s;     /**< `32s` taps, `16s` data */
+typedef struct ZorsFIRState32sc_16sc ZorsFIRState32sc_16sc; /**< `32sc` taps, `16sc` data */
+typedef struct ZorsFIRState_64f ZorsFIRState_64f;           /**< `64f` */
+typedef struct ZorsFIRState_64fc ZorsFIRState_64fc;         /**< `64fc` */
+typedef struct ZorsFIRState64f_32f ZorsFIRState64f_32f;     /**< `64f` taps, `32f` data */
+typedef struct ZorsFIRState64fc_32fc ZorsFIRState64fc_32fc; /**< `64fc` taps, `32fc` data */
+typedef struct ZorsFIRState64f_32s ZorsFIRState64f_32s;     /**< `64f` taps, `32s` data */
+typedef struct ZorsFIRState64fc_32sc ZorsFIRState64fc_32sc; /**< `64fc` taps, `32sc` data */
+typedef struct ZorsFIRState64f_16s ZorsFIRState64f_16s;     /**< `64f` taps, `16s` data */
+typedef struct ZorsFIRState64fc_16sc ZorsFIRState64fc_16sc; /**< `64fc` taps, `16sc` data */
+typedef struct ZorsFIRState_16s ZorsFIRState_16s;           /**< `16s` */
+/** @} */
+
 /** The version record that zorsGetLibVersion() returns. */
 typedef struct {
     Zor32s versionMajor;     /**< 8 */
