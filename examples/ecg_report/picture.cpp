@@ -1,6 +1,6 @@
 #include "picture.h"
 
-#include "error.h"
+#include "common/error.h"
 
 #include <csignal>
 #include <sys/wait.h>
@@ -32,7 +32,7 @@ Picture::Picture(const fs::path& png, const Layout& layout, const std::string& c
     std::signal(SIGPIPE, SIG_IGN); // a gnuplot that ends early is found by its exit status
     fs::remove(png);
     pipe_ = popen("command -v gnuplot >/dev/null || exit 127; exec gnuplot -", "w");
-    if (!pipe_) throw Error("cannot start gnuplot");
+    if (!pipe_) throw example::Error("cannot start gnuplot");
     say("set encoding utf8");
     say("set terminal pngcairo noenhanced size 1600," + std::to_string(layout.height) +
         " font 'DejaVu Sans,13'");
@@ -77,9 +77,10 @@ void Picture::finish()
 {
     say("unset multiplot\nset output");
     const int status = pclose(std::exchange(pipe_, nullptr));
-    if (WIFEXITED(status) && WEXITSTATUS(status) == 127) throw Error("gnuplot is not installed");
-    if (status != 0) throw Error("gnuplot failed");
-    if (!fs::exists(png_) || fs::is_empty(png_)) throw Error(png_.string() + ": cannot write the picture");
+    if (WIFEXITED(status) && WEXITSTATUS(status) == 127) throw example::Error("gnuplot is not installed");
+    if (status != 0) throw example::Error("gnuplot failed");
+    if (!fs::exists(png_) || fs::is_empty(png_))
+        throw example::Error(png_.string() + ": cannot write the picture");
 }
 
 } // namespace ecg

@@ -1,7 +1,7 @@
 // Vectors in the library's aligned memory.
 #pragma once
 
-#include "error.h"
+#include "common/error.h"
 
 #include <zors.h>
 
@@ -10,6 +10,8 @@
 #include <span>
 
 namespace ecg {
+
+using example::Error, example::require;
 
 template <class T>
 inline constexpr T* (*allocate)(int len) = nullptr;

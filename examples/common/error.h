@@ -1,4 +1,4 @@
-// What ends the program: one exception, with a message for the user.
+// What ends an example: one exception, with a message for the user.
 #pragma once
 
 #include <zorstatus.h>
@@ -6,7 +6,7 @@
 #include <stdexcept>
 #include <string>
 
-namespace ecg {
+namespace example {
 
 struct Error : std::runtime_error {
     using runtime_error::runtime_error;
@@ -20,4 +20,4 @@ inline void require(ZorStatus status, const char* what)
                 std::to_string(status) + ")");
 }
 
-} // namespace ecg
+} // namespace example
