@@ -12,8 +12,9 @@
  *
  * Calls of 512 samples and more on filters that are transformed (see fir_state.h) go by overlap-save: blocks of N =
  * 2^(k+1) samples, 2^k being the power of two above L, are transformed, multiplied by the transformed taps and
- * transformed back, which gives N - L + 1 outputs each. The error is one of the whole block: about 0.3 eps sqrt(log2
- * N) times the root mean square of an output.
+ * transformed back, which gives N - L + 1 outputs each. The error is one of the whole block: its root mean square is
+ * at most 0.7 eps sqrt(log2 N) times that of the results (measured: 0.68, complex 0.43), the greatest one 3 of these
+ * units.
  */
 #include <zortypes.h>
 
