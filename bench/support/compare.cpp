@@ -46,22 +46,68 @@ public:
         std::printf("| operation | elements | ours, ns | best peer, ns | which | ratio |\n");
         std::printf("|---|---:|---:|---:|---|---:|\n");
         for (const Row& row : rows()) {
-            const auto ours = times_.find(nameOf(row, row.contenders.front()));
-            if (ours == times_.end()) continue;
-            std::string best;
-            double least = INFINITY;
-            for (std::size_t i = 1; i < row.contenders.size(); ++i) {
-                const auto peer = times_.find(nameOf(row, row.contenders[i]));
-                if (peer == times_.end() || peer->second >= least) continue;
-                least = peer->second;
-                best = row.contenders[i];
-            }
-            std::printf("| %s | %d | %.4g | %.4g | %s | %.2f |\n", row.operation.c_str(), row.length,
-                        ours->second, least, best.c_str(), ours->second / least);
+            const double ours = timeOf(row, row.contenders.front());
+            if (std::isnan(ours)) continue;
+            const std::string best = bestPeer(row);
+            const double least = timeOf(row, best);
+            std::printf("| %s | %d | %.4g | %.4g | %s | %.2f |\n", row.operation.c_str(), row.length, ours,
+                        least, best.c_str(), ours / least);
+        }
+    }
+
+    // All times in ns; a dash where a peer does not take part, and where we do not.
+    void printPeers() const
+    {
+        std::vector<std::string> columns;
+        for (const Row& row : rows())
+            for (const std::string& contender : row.contenders)
+                if (!std::isnan(timeOf(row, contender)) &&
+                    !std::count(columns.begin(), columns.end(), contender))
+                    columns.push_back(contender);
+        std::printf("| operation | elements | ratio | best peer |");
+        for (const std::string& column : columns) std::printf(" %s |", column.c_str());
+        std::printf("\n|---|---:|---:|---|");
+        for (std::size_t i = 0; i < columns.size(); ++i) std::printf("---:|");
+        std::printf("\n");
+        for (const Row& row : rows()) {
+            const std::string best = bestPeer(row);
+            if (best.empty()) continue;
+            const auto cell = [](const char* format, double value) {
+                if (std::isnan(value))
+                    std::printf(" - |");
+                else
+                    std::printf(format, value);
+            };
+            std::printf("| %s | %d |", row.operation.c_str(), row.length);
+            cell(" %.2f |", timeOf(row, row.contenders.front()) / timeOf(row, best));
+            std::printf(" %s |", best.c_str());
+            for (const std::string& column : columns) cell(" %.4g |", timeOf(row, column));
+            std::printf("\n");
         }
     }
 
 private:
+    // Not a number where it was not measured.
+    double timeOf(const Row& row, const std::string& contender) const
+    {
+        const auto at = times_.find(nameOf(row, contender));
+        return at == times_.end() ? NAN : at->second;
+    }
+
+    // Empty where none was measured.
+    std::string bestPeer(const Row& row) const
+    {
+        std::string best;
+        double least = INFINITY;
+        for (std::size_t i = 1; i < row.contenders.size(); ++i) {
+            const double time = timeOf(row, row.contenders[i]);
+            if (!(time < least)) continue;
+            least = time;
+            best = row.contenders[i];
+        }
+        return best;
+    }
+
     std::map<std::string, double> times_;
 };
 
@@ -91,7 +137,7 @@ void compare(const std::string& operation, const std::vector<int>& lengths,
     }
 }
 
-int run(int argc, char** argv)
+int run(int argc, char** argv, Table table)
 {
     // Short runs, many times, in random order: a disturbance hits all contenders alike.
     std::vector<std::string> arguments = {argv[0], "--benchmark_min_time=0.005", "--benchmark_repetitions=9",
@@ -105,7 +151,10 @@ int run(int argc, char** argv)
     Shortest reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     std::fprintf(stderr, "\n");
-    reporter.printTable();
+    if (table == Table::everyPeer)
+        reporter.printPeers();
+    else
+        reporter.printTable();
     return 0;
 }
 

@@ -20,7 +20,10 @@ struct Contender {
 void compare(const std::string& operation, const std::vector<int>& lengths,
              const std::vector<Contender>& contenders);
 
+// What a row of the table says of the peers: the best one's time, or a column for each.
+enum class Table { bestPeer, everyPeer };
+
 // Runs everything that was registered and prints a table with the ratio of our time to the best peer's.
-int run(int argc, char** argv);
+int run(int argc, char** argv, Table table = Table::bestPeer);
 
 } // namespace zors::bench

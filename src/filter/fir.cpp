@@ -7,21 +7,22 @@
 namespace zors::ZORS_VARIANT {
 namespace {
 
-// Data that are no numbers pass through the scratch memory, converted: half of it takes samples, half of it results.
-template <class E, class D>
-void filterDirectly(FilterRecord<E>& r, const D* pSrc, D* pDst, int len, int scaleFactor)
+constexpr int halfChunk = chunkLength / 2;
+
+// Data that are no numbers pass through the scratch memory, converted: half of it takes up to most samples, the other
+// half their results, which filter makes.
+template <class E, class D, class Filter>
+ZorStatus filterConverted(FilterRecord<E>& r, const D* pSrc, D* pDst, int len, int most, int scaleFactor,
+                          Filter filter)
 {
-    if constexpr (std::is_same_v<D, E>) {
-        filterDirect(r, pSrc, pDst, len);
-    } else {
-        constexpr int most = chunkLength / 2;
-        for (int i = 0, count; i < len; i += count) {
-            count = len - i < most ? len - i : most;
-            toNumbers(pSrc + i, r.scratch, count);
-            filterDirect(r, r.scratch, r.scratch + most, count);
-            fromNumbers(r.scratch + most, pDst + i, count, scaleFactor);
-        }
+    E *const samples = r.scratch, *const results = r.scratch + halfChunk;
+    for (int i = 0, count; i < len; i += count) {
+        count = len - i < most ? len - i : most;
+        toNumbers(pSrc + i, samples, count);
+        if (const ZorStatus bad = filter(samples, results, count)) return bad;
+        fromNumbers(results, pDst + i, count, scaleFactor);
     }
+    return zorStsOk;
 }
 
 // Calls of this many samples go by transforms.
@@ -30,10 +31,22 @@ constexpr int transformedCall = 512;
 template <class E, class D>
 ZorStatus filterSingleRate(FilterRecord<E>& r, const D* pSrc, D* pDst, int len, int deciding, int scaleFactor)
 {
-    if (deciding >= transformedCall && r.fftLen > 0)
+    const auto direct = [&r](const E* samples, E* results, int count) {
+        filterDirect(r, samples, results, count);
+        return ZorStatus{zorStsOk};
+    };
+    const auto byTransform = [&r](const E* samples, E* results, int count) {
+        return filterByTransform(r, samples, results, count, 0);
+    };
+    const bool transforms = deciding >= transformedCall && r.fftLen > 0;
+    if constexpr (std::is_same_v<D, E>)
+        return transforms ? byTransform(pSrc, pDst, len) : direct(pSrc, pDst, len);
+    else if (!transforms)
+        return filterConverted(r, pSrc, pDst, len, halfChunk, scaleFactor, direct);
+    else if (const int step = transformStep(r); step <= halfChunk)
+        return filterConverted(r, pSrc, pDst, len, halfChunk / step * step, scaleFactor, byTransform);
+    else
         return filterByTransform(r, pSrc, pDst, len, scaleFactor);
-    filterDirectly(r, pSrc, pDst, len, scaleFactor);
-    return zorStsOk;
 }
 
 // Chunk by chunk. Whether one is transformed depends on how many samples follow it.

@@ -18,13 +18,20 @@ ZorStatus transformBlock(FilterRecord<E>& r, const E* samples)
     return (*Transform::inverse)(r.block, r.block, r.spec, work);
 }
 
+// Samples that a block filters.
+template <class E>
+int transformStep(const FilterRecord<E>& r)
+{
+    return r.fftLen - r.tapsLen + 1;
+}
+
 // Any number of samples. Data that are numbers are read from the source where a whole block stands there, which the
 // destination must not be; others are converted block by block, and the destination may be the source.
 template <class E, class D>
 ZorStatus filterByTransform(FilterRecord<E>& r, const D* pSrc, D* pDst, int len, int scaleFactor)
 {
     constexpr bool fromSource = std::is_same_v<D, E>;
-    const int older = r.tapsLen - 1, most = r.fftLen - older;
+    const int older = r.tapsLen - 1, most = transformStep(r);
     rewind(r);
     for (int i = 0, count; i < len; i += count) {
         count = len - i < most ? len - i : most;
