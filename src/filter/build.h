@@ -38,7 +38,7 @@ Design multiRate(int tapsLen, Rates rates, bool ownsTransform = false)
     return {Kind::multiRate, tapsLen, rates, {}, size};
 }
 
-inline ZorStatus size(const Design& design)
+inline ZorStatus representable(const Design& design)
 {
     return require(design.size <= INT32_MAX, zorStsBadSize);
 }
@@ -76,6 +76,8 @@ TransformMemory ownsFIRInit(FilterRecord<NumberOf<State>>*& made, void* memory, 
     return places;
 }
 
+// Transforms are faster and never needed: where the record of one cannot be made, not even for lack of memory, the
+// filter goes without.
 template <class E>
 void takeTransform(FilterRecord<E>& r, const BlockTransform& t, ZorStatus status)
 {
@@ -109,15 +111,10 @@ FilterRecord<NumberOf<State>>* allocate(const Design& d)
     ownsFIRInit<State>(r, memory, d, true);
     r->owned = 1;
     r->memory = memory;
-    if (d.transform.fftLen > 0) {
-        const ZorStatus status =
-            (*FilterTransform<E>::initAlloc)(&r->spec, d.transform.order, ZOR_FFT_SCALE_INV, ZOR_ALG_ANY);
-        if (status == zorStsNoMemory) {
-            zorFree(memory);
-            return nullptr;
-        }
-        takeTransform(*r, d.transform, status);
-    }
+    if (d.transform.fftLen > 0)
+        takeTransform(
+            *r, d.transform,
+            (*FilterTransform<E>::initAlloc)(&r->spec, d.transform.order, ZOR_FFT_SCALE_INV, ZOR_ALG_ANY));
     return r;
 }
 
@@ -135,7 +132,7 @@ template <class State, class T, class... Factor>
 ZorStatus initDesign(State** ppState, const Design& d, Zor8u* pBuffer, const T* pTaps,
                      const DataOf<State>* pDlyLine, Factor... tapsFactor)
 {
-    if (const ZorStatus bad = size(d)) return bad;
+    if (const ZorStatus bad = representable(d)) return bad;
     *ppState = filled<State>(build<State>(pBuffer, d), pTaps, pDlyLine, tapsFactor...);
     return zorStsOk;
 }
@@ -144,16 +141,16 @@ template <class State, class T, class... Factor>
 ZorStatus allocateDesign(State** ppState, const Design& d, const T* pTaps, const DataOf<State>* pDlyLine,
                          Factor... tapsFactor)
 {
-    if (const ZorStatus bad = size(d)) return bad;
+    if (const ZorStatus bad = representable(d)) return bad;
     auto* r = allocate<State>(d);
     if (!r) return zorStsNoMemory;
     *ppState = filled<State>(*r, pTaps, pDlyLine, tapsFactor...);
     return zorStsOk;
 }
 
-inline ZorStatus tell(const Design& d, int* pStateSize)
+inline ZorStatus tellSize(const Design& d, int* pStateSize)
 {
-    if (const ZorStatus bad = size(d)) return bad;
+    if (const ZorStatus bad = representable(d)) return bad;
     *pStateSize = static_cast<int>(d.size);
     return zorStsOk;
 }

@@ -64,7 +64,7 @@ struct Chains {
         if constexpr (isReal && Starts) before = mulAdd(load<width>(x - 1), h1, before);
     }
 
-    [[gnu::always_inline]] void addLast(const T* x, V h0)
+    [[gnu::always_inline]] void addSingle(const T* x, V h0)
     {
         each([&](auto p) { first[p] = mulAdd(load<width>(x + p * width), h0, first[p]); });
     }
@@ -76,7 +76,7 @@ struct Chains {
         for (int a = 0; a < pairs; ++a, x -= 2, folded += 2 * fold<T>)
             add(x, broadcast(folded), broadcast(folded + fold<T>));
         // A factor 0 in the place of the missing tap would meet a sample outside the sum.
-        if (isReal && tapsLen % 2) addLast(x, broadcast(folded));
+        if (isReal && tapsLen % 2) addSingle(x, broadcast(folded));
     }
 
     // The outputs of vector p; carried has the second chain of the vector before the first one.

@@ -76,9 +76,9 @@ template <class Tap, class Data, class... Scale>
     line.hold(last, len);
 }
 
-inline ZorStatus delayLine(const void* pDlyLine, const int* pDlyLineIndex, int tapsLen)
+// Of an index that is known to be there.
+inline ZorStatus delayIndex(const int* pDlyLineIndex, int tapsLen)
 {
-    if (const ZorStatus bad = pointers(pDlyLine, pDlyLineIndex)) return bad;
     return require(*pDlyLineIndex >= 0 && *pDlyLineIndex < tapsLen, zorStsBadDelayIndex);
 }
 
@@ -87,8 +87,9 @@ ZorStatus block(const Data* pSrc, Data* pDst, int numIters, const Tap* pTaps, in
                 int* pDlyLineIndex, Scale... scale)
 {
     if (const ZorStatus bad = check(pointers(pSrc, pDst), length(numIters), pointers(pTaps),
-                                    firLength(tapsLen), delayLine(pDlyLine, pDlyLineIndex, tapsLen)))
+                                    firLength(tapsLen), pointers(pDlyLine, pDlyLineIndex)))
         return bad;
+    if (const ZorStatus bad = delayIndex(pDlyLineIndex, tapsLen)) return bad;
     filterBlock(pSrc, pDst, numIters, pTaps, tapsLen, DoubledLine(pDlyLine, tapsLen, pDlyLineIndex),
                 scale...);
     return zorStsOk;
@@ -106,8 +107,9 @@ ZorStatus one(Data src, Data* pDst, const Tap* pTaps, int tapsLen, Data* pDlyLin
               Scale... scale)
 {
     if (const ZorStatus bad =
-            check(pointers(pDst, pTaps), firLength(tapsLen), delayLine(pDlyLine, pDlyLineIndex, tapsLen)))
+            check(pointers(pDst, pTaps), firLength(tapsLen), pointers(pDlyLine, pDlyLineIndex)))
         return bad;
+    if (const ZorStatus bad = delayIndex(pDlyLineIndex, tapsLen)) return bad;
     DoubledLine line(pDlyLine, tapsLen, pDlyLineIndex);
     output(line.push(src), pDst, pTaps, tapsLen, scale...);
     return zorStsOk;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "direct.h"
+#include "factors.h"
 #include "rates.h"
 #include "transform/integer.h"
 #include "vector/quotient.h"
@@ -91,13 +92,6 @@ template <class Data>
 inline void roundSums(const Zor64f* pSums, Data* pDst, std::ptrdiff_t count, int scaleFactor)
 {
     toIntegers(pSums, asLanes(pDst), laneCount<Data>(count), scaleFactor);
-}
-
-// What integer taps and integer results are scaled by; beyond the bounds every result is 0 or saturated.
-inline int commonFactor(int tapsFactor, int scaleFactor)
-{
-    constexpr Zor64s bound = 1 << 20;
-    return static_cast<int>(std::clamp(Zor64s{tapsFactor} + scaleFactor, -bound, bound));
 }
 
 // 16-bit taps on 16-bit data promise the exact sum. In double precision all sums of so many products are.

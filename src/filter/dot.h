@@ -50,7 +50,7 @@ template <class E>
     using T = Lane<E>;
     constexpr int n = lanes<T>;
     const auto isLeft = iota<Index<T>>() >= static_cast<Index<T>>(n - left);
-    sum.add(load<n>(taps), select(isLeft, load<n>(x), Vec<T>{}));
+    sum.add(select(isLeft, load<n>(taps), Vec<T>{}), select(isLeft, load<n>(x), Vec<T>{}));
 }
 
 // One output, in the lanes of a vector whose sum it is.

@@ -1,4 +1,5 @@
 // Filtering with a record, of whichever rate.
+#include "factors.h"
 #include "frame/bind.h"
 #include "overlap.h"
 #include "sample_copy.h"
@@ -18,9 +19,9 @@ ZorStatus filterConverted(FilterRecord<E>& r, const D* pSrc, D* pDst, int len, i
     E *const samples = r.scratch, *const results = r.scratch + halfChunk;
     for (int i = 0, count; i < len; i += count) {
         count = len - i < most ? len - i : most;
-        toNumbers(pSrc + i, samples, count);
+        loadNumbers(pSrc + i, samples, count);
         if (const ZorStatus bad = filter(samples, results, count)) return bad;
-        fromNumbers(results, pDst + i, count, scaleFactor);
+        storeNumbers(results, pDst + i, count, scaleFactor);
     }
     return zorStsOk;
 }
@@ -83,9 +84,9 @@ void filterMultiRateConverted(FilterRecord<E>& r, const D* pSrc, D* pDst, int nu
         count = numIters - i < most ? numIters - i : most;
         const std::ptrdiff_t samples = std::ptrdiff_t{count} * r.downFactor,
                              results = std::ptrdiff_t{count} * r.upFactor;
-        toNumbers(pSrc, r.inputs, samples);
+        loadNumbers(pSrc, r.inputs, samples);
         filterMultiRate(r, r.inputs, r.scratch, count);
-        fromNumbers(r.scratch, pDst, results, scaleFactor);
+        storeNumbers(r.scratch, pDst, results, scaleFactor);
         pSrc += samples;
         pDst += results;
     }
@@ -133,8 +134,9 @@ ZorStatus filterInPlace(DataOf<State>* pSrcDst, int numIters, State* pState, int
     if (const ZorStatus bad = check(pointers(pSrcDst, pState), length(numIters))) return bad;
     if (const ZorStatus bad = context(pState, Kind::single, Kind::multiRate)) return bad;
     auto& r = recordOf(pState);
-    if (r.tag == Kind::multiRate) return filterMultiRateInPlace(r, pSrcDst, numIters, scaleFactor);
-    return filterSingleRateInPlace(r, pSrcDst, numIters, scaleFactor);
+    const int factor = commonFactor(r.tapsFactor, scaleFactor);
+    if (r.tag == Kind::multiRate) return filterMultiRateInPlace(r, pSrcDst, numIters, factor);
+    return filterSingleRateInPlace(r, pSrcDst, numIters, factor);
 }
 
 template <class State>
@@ -147,18 +149,19 @@ ZorStatus filter(const DataOf<State>* pSrc, DataOf<State>* pDst, int numIters, S
             context(pState, Kind::single, Kind::multiRate, Kind::stream, Kind::multiRateStream))
         return bad;
     auto& r = recordOf(pState);
+    const int factor = commonFactor(r.tapsFactor, scaleFactor);
     if (r.tag == Kind::multiRate) {
-        filterMultiRateApart(r, pSrc, pDst, numIters, scaleFactor);
+        filterMultiRateApart(r, pSrc, pDst, numIters, factor);
         return zorStsOk;
     }
     if constexpr (Kind::stream != 0) {
         if (r.tag == Kind::multiRateStream) {
-            filterMultiRateStream(r, pSrc, pDst, numIters, scaleFactor);
+            filterMultiRateStream(r, pSrc, pDst, numIters, factor);
             return zorStsOk;
         }
         if (r.tag == Kind::stream) takeHistory(r, pSrc);
     }
-    return filterSingleRate(r, pSrc, pDst, numIters, numIters, scaleFactor);
+    return filterSingleRate(r, pSrc, pDst, numIters, numIters, factor);
 }
 
 // Only integer data have a scale factor.
@@ -184,9 +187,9 @@ ZorStatus firOne(DataOf<State> src, DataOf<State>* pDst, State* pState, Factor..
     auto& r = recordOf(pState);
     if constexpr (Kind::converts) {
         typename Kind::Number number;
-        toNumbers(&src, &number, 1);
+        loadNumbers(&src, &number, 1);
         number = filterOne(r, number);
-        fromNumbers(&number, pDst, 1, (0 + ... + scaleFactor));
+        storeNumbers(&number, pDst, 1, commonFactor(r.tapsFactor, (0 + ... + scaleFactor)));
     } else {
         *pDst = filterOne(r, src);
     }

@@ -10,7 +10,7 @@ ZorStatus getStateSize(int tapsLen, int upFactor, int downFactor, int* pStateSiz
 {
     const Rates rates{upFactor, 0, downFactor, 0};
     if (const ZorStatus bad = check(pointers(pStateSize), firLength(tapsLen), factors(rates))) return bad;
-    return tell(multiRate<State>(tapsLen, rates), pStateSize);
+    return tellSize(multiRate<State>(tapsLen, rates), pStateSize);
 }
 
 // Integer taps, T, have a factor: Factor is int, otherwise nothing.
@@ -40,7 +40,7 @@ template <class State>
 ZorStatus streamGetStateSize(int tapsLen, int* pStateSize)
 {
     if (const ZorStatus bad = check(pointers(pStateSize), firLength(tapsLen))) return bad;
-    return tell(singleRate<State>(tapsLen, KindOfFilter<State>::stream), pStateSize);
+    return tellSize(singleRate<State>(tapsLen, KindOfFilter<State>::stream), pStateSize);
 }
 
 template <class State, class T, class... Factor>

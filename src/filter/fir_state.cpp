@@ -9,7 +9,7 @@ template <class State>
 ZorStatus getStateSize(int tapsLen, int* pStateSize)
 {
     if (const ZorStatus bad = check(pointers(pStateSize), firLength(tapsLen))) return bad;
-    return tell(singleRate<State>(tapsLen, KindOfFilter<State>::single), pStateSize);
+    return tellSize(singleRate<State>(tapsLen, KindOfFilter<State>::single), pStateSize);
 }
 
 // Integer taps, T, have a factor: Factor is int, otherwise nothing.
@@ -49,7 +49,7 @@ ZorStatus release(State* pState)
 
 // The check of a record that has taps and a delay line of its own.
 template <class State>
-ZorStatus filter(const State* pState)
+ZorStatus hasTaps(const State* pState)
 {
     return context(pState, KindOfFilter<State>::single, KindOfFilter<State>::multiRate);
 }
@@ -58,7 +58,7 @@ template <class State, class T, class... Factor>
 ZorStatus firSetTaps(const T* pTaps, State* pState, Factor... tapsFactor)
 {
     if (const ZorStatus bad = pointers(pTaps, pState)) return bad;
-    if (const ZorStatus bad = filter(pState)) return bad;
+    if (const ZorStatus bad = hasTaps(pState)) return bad;
     setTaps(recordOf(pState), pTaps, tapsFactor...);
     fillTables(recordOf(pState));
     return zorStsOk;
@@ -68,7 +68,7 @@ template <class State, class T, class... Factor>
 ZorStatus firGetTaps(const State* pState, T* pTaps, Factor... tapsFactor)
 {
     if (const ZorStatus bad = pointers(pState, pTaps)) return bad;
-    if (const ZorStatus bad = filter(pState)) return bad;
+    if (const ZorStatus bad = hasTaps(pState)) return bad;
     getTaps(recordOf(pState), pTaps, tapsFactor...);
     return zorStsOk;
 }
@@ -77,7 +77,7 @@ template <class State>
 ZorStatus firSetDlyLine(State* pState, const DataOf<State>* pDlyLine)
 {
     if (const ZorStatus bad = pointers(pState)) return bad;
-    if (const ZorStatus bad = filter(pState)) return bad;
+    if (const ZorStatus bad = hasTaps(pState)) return bad;
     setDelayLine(recordOf(pState), pDlyLine);
     return zorStsOk;
 }
@@ -86,7 +86,7 @@ template <class State>
 ZorStatus firGetDlyLine(const State* pState, DataOf<State>* pDlyLine)
 {
     if (const ZorStatus bad = pointers(pState, pDlyLine)) return bad;
-    if (const ZorStatus bad = filter(pState)) return bad;
+    if (const ZorStatus bad = hasTaps(pState)) return bad;
     getDelayLine(recordOf(pState), pDlyLine);
     return zorStsOk;
 }

@@ -41,8 +41,8 @@ public:
     // Memory of which the size has room to begin at a cache line: where it does, what follows it begins at one too.
     void takeLines(Zor8u*& region, std::int64_t bytes)
     {
-        region = at<Zor8u>(end_);
         if (bytes == 0) return;
+        region = at<Zor8u>(end_);
         if (base_) region = alignedTo(cacheLine, region);
         end_ = base_ ? region - reinterpret_cast<Zor8u*>(base_) + rounded(bytes - cacheLine, alignment)
                      : end_ + bytes;

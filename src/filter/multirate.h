@@ -50,7 +50,7 @@ struct PhaseEntry {
 inline constexpr int entryLength = sizeof(PhaseEntry) / sizeof(Zor32s);
 
 template <class E>
-Lane<E>* groupsOf(const FilterRecord<E>& r)
+Lane<E>* groupTable(const FilterRecord<E>& r)
 {
     return reinterpret_cast<Lane<E>*>(r.groups);
 }
@@ -128,7 +128,7 @@ void fillPhases(FilterRecord<E>& r)
     if (!r.groups) return;
     const auto place = [&](int output) { return placeOf(r, output); };
     fillGroups<E>(
-        groupsOf(r), r.upFactor, r.delayLen,
+        groupTable(r), r.upFactor, r.delayLen,
         [&](int output, int k) {
             return r.reversed[r.tapsLen - 1 - place(output).phase - std::ptrdiff_t{r.upFactor} * k];
         },
@@ -196,7 +196,8 @@ void idxFIRMR(const FilterRecord<E>& r, const E* pSrc, E* pDst, int numIters)
     });
 }
 
-// Kernel::direct, vectors of outputs by the table of their taps. Up to a vector of samples behind the last one is read.
+// Kernel::direct, vectors of outputs by the table of their taps. Up to a vector of samples behind the last one is read,
+// and left out; behind those in the buffer there are the other regions of the record.
 template <class E>
 void filterGroups(const FilterRecord<E>& r, const E* pSrc, E* pDst, int numIters)
 {
@@ -212,7 +213,7 @@ void filterGroups(const FilterRecord<E>& r, const E* pSrc, E* pDst, int numIters
     // Blocks periods at once, or one.
     const auto pass = [&](auto count) {
         Place place = placeOf(r, 0);
-        const T* table = groupsOf(r);
+        const T* table = groupTable(r);
         for (std::ptrdiff_t j = 0; j < period && j < left; j += n, table += tableStep) {
             GroupSums<E, count> sums;
             sums.run({table}, taps, asLanes(pSrc + place.sample), samplesOn * each);

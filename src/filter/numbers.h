@@ -25,16 +25,6 @@ void convertLanes(const T* p, N* numbers, int count)
         ::zorsConvert_16s64f_Sfs_arraddr(p, numbers, count, 0);
 }
 
-inline void scaleLanes(const Zor16s* p, Zor64f* numbers, int count, int scaleFactor)
-{
-    ::zorsConvert_16s64f_Sfs_arraddr(p, numbers, count, scaleFactor);
-}
-
-inline void scaleLanes(const Zor32s* p, Zor64f* numbers, int count, int scaleFactor)
-{
-    ::zorsConvert_32s64f_Sfs_arraddr(p, numbers, count, scaleFactor);
-}
-
 template <class N, class D>
 void roundLanes(const N* numbers, D* p, int count, int scaleFactor)
 {
@@ -62,22 +52,14 @@ void inPieces(std::ptrdiff_t count, Run run)
 
 // Vectors of len elements.
 template <class D, class E>
-void toNumbers(const D* p, E* numbers, std::ptrdiff_t len)
+void loadNumbers(const D* p, E* numbers, std::ptrdiff_t len)
 {
     inPieces(laneCount<E>(len),
              [=](auto i, int count) { convertLanes(asLanes(p) + i, asLanes(numbers) + i, count); });
 }
 
-template <class D, class E>
-void toNumbers(const D* p, E* numbers, std::ptrdiff_t len, int scaleFactor)
-{
-    inPieces(laneCount<E>(len), [=](auto i, int count) {
-        scaleLanes(asLanes(p) + i, asLanes(numbers) + i, count, scaleFactor);
-    });
-}
-
 template <class E, class D>
-void fromNumbers(const E* numbers, D* p, std::ptrdiff_t len, int scaleFactor = 0)
+void storeNumbers(const E* numbers, D* p, std::ptrdiff_t len, int scaleFactor = 0)
 {
     inPieces(laneCount<E>(len), [=](auto i, int count) {
         roundLanes(asLanes(numbers) + i, asLanes(p) + i, count, scaleFactor);

@@ -12,10 +12,9 @@ template <class E>
 ZorStatus transformBlock(FilterRecord<E>& r, const E* samples)
 {
     using Transform = FilterTransform<E>;
-    Zor8u* work = r.workSize > 0 ? r.work : nullptr;
-    if (const ZorStatus bad = (*Transform::forward)(samples, r.block, r.spec, work)) return bad;
+    if (const ZorStatus bad = (*Transform::forward)(samples, r.block, r.spec, r.work)) return bad;
     (*Transform::multiply)(r.spectrum, r.block, r.fftLen);
-    return (*Transform::inverse)(r.block, r.block, r.spec, work);
+    return (*Transform::inverse)(r.block, r.block, r.spec, r.work);
 }
 
 // Samples that a block filters.
@@ -40,12 +39,12 @@ ZorStatus filterByTransform(FilterRecord<E>& r, const D* pSrc, D* pDst, int len,
             if (i > 0 && count == most) samples = pSrc + i - older;
         if (samples == r.block) {
             copySamples(r.delay + 1, r.block, older);
-            toNumbers(pSrc + i, r.block + older, count);
+            loadNumbers(pSrc + i, r.block + older, count);
             clearSamples(r.block + older + count, most - count);
         }
         copySamples(samples + count - 1, r.delay, r.tapsLen);
         if (const ZorStatus bad = transformBlock(r, samples)) return bad;
-        fromNumbers(r.block + older, pDst + i, count, scaleFactor);
+        storeNumbers(r.block + older, pDst + i, count, scaleFactor);
     }
     return zorStsOk;
 }

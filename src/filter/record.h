@@ -30,11 +30,12 @@ struct FilterRecord {
         folded; // each part of a tap 16 bytes wide, the first tap first; of multi-rate filters the taps by phase
     Kernel kernel;
     Zor32s delayLen;
-    E* block; // fftLen samples
-    Zor8u* work;
+    E* block;    // fftLen samples
+    Zor8u* work; // null where transforms need none
     Zor32s workSize;
+    Zor32s tapsFactor; // taps stand for themselves times 2^-tapsFactor
+    E* scratch;        // filtered samples on their way to where the source stands, or converted ones
     Zor32s owned;
-    E* scratch;     // filtered samples on their way to where the source stands, or converted ones
     E* inputs;      // of multi-rate filters, converted samples
     Zor32s* phases; // of Kernel::indexed
     Zor8u* groups;  // of Kernel::direct, where vectors of outputs are filtered by a table

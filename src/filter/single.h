@@ -63,12 +63,14 @@ template <class E>
     E* window = r.delay + ++r.delayIndex;
     window[r.tapsLen - 1] = sample;
     int n = r.tapsLen;
-    E newest = {};
+    // Into two sums in turn: a product passes through fewer roundings so than in one.
+    E sum = {}, other = {};
     for (int alone = 0; alone < newestAlone && n > 0; ++alone) {
         --n;
-        newest = plusProduct(newest, r.reversed[n], window[n]);
+        E& next = alone % 2 == 0 ? sum : other;
+        next = plusProduct(next, r.reversed[n], window[n]);
     }
-    return sumOfBoth(newest, dot(r.reversed, window, n));
+    return sumOfBoth(sumOfBoth(sum, other), dot(r.reversed, window, n));
 }
 
 } // namespace zors::ZORS_VARIANT

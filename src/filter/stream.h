@@ -11,7 +11,7 @@ template <class E, class D>
 void takeHistory(FilterRecord<E>& r, const D* pSrc)
 {
     r.delayIndex = 0;
-    toNumbers(pSrc - (r.tapsLen - 1), r.delay + 1, r.tapsLen - 1);
+    loadNumbers(pSrc - (r.tapsLen - 1), r.delay + 1, r.tapsLen - 1);
 }
 
 // Data that are no numbers are converted for as many outputs at a time as the record has room for: their samples into
@@ -38,9 +38,9 @@ void filterMultiRateStream(FilterRecord<E>& r, const D* pSrc, D* pDst, int numIt
             const std::int64_t older = tapsOfPhase(r.tapsLen, r.upFactor, firstPhase) - 1;
             const std::int64_t newest = sample + first / r.upFactor;
             const std::int64_t needed = older + 1 + last / r.upFactor - first / r.upFactor;
-            toNumbers(pSrc + newest - older, samples, needed);
+            loadNumbers(pSrc + newest - older, samples, needed);
             dirFIRMR(r, samples + older, firstPhase, r.scratch + half, count);
-            fromNumbers(r.scratch + half, pDst + j, count, scaleFactor);
+            storeNumbers(r.scratch + half, pDst + j, count, scaleFactor);
         }
     }
 }

@@ -2,11 +2,13 @@
 #pragma once
 
 #include "chains.h"
+#include "factors.h"
 #include "multirate.h"
 #include "numbers.h"
 #include "single.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace zors::ZORS_VARIANT {
 
@@ -28,9 +30,7 @@ void transformTaps(FilterRecord<E>& r)
     if (r.fftLen < 1) return;
     std::reverse_copy(r.reversed, r.reversed + r.tapsLen, r.spectrum);
     clearSamples(r.spectrum + r.tapsLen, r.fftLen - r.tapsLen);
-    if ((*FilterTransform<E>::forward)(r.spectrum, r.spectrum, r.spec, r.workSize > 0 ? r.work : nullptr) !=
-        zorStsOk)
-        r.fftLen = -1;
+    if ((*FilterTransform<E>::forward)(r.spectrum, r.spectrum, r.spec, r.work) != zorStsOk) r.fftLen = -1;
 }
 
 // Every table of the record, from its reversed taps.
@@ -42,18 +42,24 @@ void fillTables(FilterRecord<E>& r)
     transformTaps(r);
 }
 
-// The reversed taps. Integer taps, which alone have a factor, are multiplied by 2^-tapsFactor.
+// The reversed taps. Integer taps alone have a factor.
 template <class E, class T, class... Factor>
 void setTaps(FilterRecord<E>& r, const T* pTaps, Factor... tapsFactor)
 {
-    toNumbers(pTaps, r.reversed, r.tapsLen, tapsFactor...);
+    loadNumbers(pTaps, r.reversed, r.tapsLen);
     std::reverse(r.reversed, r.reversed + r.tapsLen);
+    r.tapsFactor = boundedFactor((0 + ... + tapsFactor));
 }
 
+// Integer taps by the factor asked for, floating ones by none.
 template <class E, class T, class... Factor>
 void getTaps(const FilterRecord<E>& r, T* pTaps, Factor... tapsFactor)
 {
-    fromNumbers(r.reversed, pTaps, r.tapsLen, -tapsFactor...);
+    if constexpr (sizeof...(Factor) > 0)
+        storeNumbers(r.reversed, pTaps, r.tapsLen, r.tapsFactor - boundedFactor((0 + ... + tapsFactor)));
+    else
+        std::transform(asLanes(r.reversed), asLanes(r.reversed + r.tapsLen), asLanes(pTaps),
+                       [&r](auto number) { return static_cast<Lane<T>>(std::ldexp(number, -r.tapsFactor)); });
     std::reverse(pTaps, pTaps + r.tapsLen);
 }
 
@@ -62,14 +68,14 @@ void setDelayLine(FilterRecord<E>& r, const D* pDlyLine)
 {
     r.delayIndex = 0;
     if (!pDlyLine) return clearSamples(r.delay, r.delayLen);
-    toNumbers(pDlyLine, r.delay, r.delayLen);
+    loadNumbers(pDlyLine, r.delay, r.delayLen);
     std::reverse(r.delay, r.delay + r.delayLen);
 }
 
 template <class E, class D>
 void getDelayLine(const FilterRecord<E>& r, D* pDlyLine)
 {
-    fromNumbers(r.delay + r.delayIndex, pDlyLine, r.delayLen);
+    storeNumbers(r.delay + r.delayIndex, pDlyLine, r.delayLen);
     std::reverse(pDlyLine, pDlyLine + r.delayLen);
 }
 

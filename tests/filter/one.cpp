@@ -2,7 +2,9 @@
 #include "filter/signal.h"
 
 #include <algorithm>
+#include <cmath>
 #include <gtest/gtest.h>
+#include <utility>
 
 namespace zors::test {
 namespace {
@@ -23,6 +25,43 @@ TEST(One, IsWithinTheBound)
         }
         tellUse(kind);
     }
+}
+
+// Two numbers just above 1 whose product is rounded down by almost as much as can be.
+std::pair<double, double> worstProduct(double unit, Random& random)
+{
+    const auto steps = static_cast<std::uint64_t>(0.1 / unit);
+    const auto number = [&] { return 1 + 2 * unit * static_cast<double>(random() % steps); };
+    for (;;) {
+        const double a = number(), b = number();
+        const long double lost = std::fmod(static_cast<long double>(a) * b, 2 * unit);
+        if (lost > 0.99 * unit && lost < unit) return {a, b};
+    }
+}
+
+// The newest product passes through all additions, each of which loses almost half a unit in the last place.
+TEST(One, IsWithinTheBoundWhereEveryRoundingCounts)
+{
+    Random random;
+    for (const char* name : {"_32f", "_32fc", "_64f", "_64fc"})
+        for (int tapsLen = 1; tapsLen <= 20; ++tapsLen) {
+            const Kind& k = kind(name);
+            const double u = k.unit(), tiny = u * (1 - 2 * u);
+            const auto [a, b] = worstProduct(u, random);
+            Numbers taps, samples(static_cast<std::size_t>(tapsLen * k.data.parts)); // the history is silent
+            for (int n = 0; n < tapsLen; ++n) {
+                taps.push_back(n == 0 ? a : tiny);
+                samples.push_back(n == tapsLen - 1 ? b : 1);
+                if (k.isComplex()) taps.push_back(-tiny), samples.push_back(1);
+            }
+            const Signal s{k, tapsLen, tapsLen, taps, samples, 0, 0};
+            const Record singly(s), block(s);
+            ASSERT_TRUE(
+                within(ofBlocks(k, tapsLen), k, runSingly(singly, s, tapsLen), s.expected(tapsLen), 0))
+                << name << ", taps " << tapsLen;
+            ASSERT_TRUE(within(ofBlocks(k, tapsLen), k, run(block, s, {tapsLen}), s.expected(tapsLen), 0))
+                << name << ", taps " << tapsLen << ", a block";
+        }
 }
 
 TEST(One, OfLongFilters)

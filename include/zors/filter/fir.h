@@ -6,15 +6,17 @@
  * sum; that of a complex filter from one chain for the real and one for the imaginary parts of the taps. A chain
  * begins with the newest sample; with AVX2 and AVX-512 each step is one fused multiplication and addition. So with u
  * = 2^-24 (`Zor32f` arithmetic) or 2^-53 an output of the direct path has an error of at most (L/2 + 2) u sum |h[k]|
- * |x[n-k]|, of a complex filter (L + 2) u in each part, with the sum over all products of the part. Integer data
- * then are rounded once more, by the scale factor. Processors differ in rounding; on one processor an output of the
- * direct path has the same bits whatever the alignment of the vectors and however the stream is cut into calls.
+ * |x[n-k]|, of a complex filter (L + 2) u in each part, with the sum over all products of the part. Data of another
+ * type than the arithmetic, integers above all, then are rounded once more. Processors differ in rounding; on one
+ * processor an output of the direct path has the same bits whatever the alignment of the vectors and however the
+ * stream is cut into calls.
  *
  * Calls of 512 samples and more on filters that are transformed (see fir_state.h) go by overlap-save: blocks of N =
- * 2^(k+1) samples, 2^k being the power of two above L, are transformed, multiplied by the transformed taps and
+ * 2^(k+1) samples, 2^k being the least power of two above L, are transformed, multiplied by the transformed taps and
  * transformed back, which gives N - L + 1 outputs each. The error is one of the whole block: its root mean square is
- * at most 0.7 eps sqrt(log2 N) times that of the results (measured: 0.68, complex 0.43), the greatest one 3 of these
- * units.
+ * at most 0.7 of the unit 2 u sqrt(log2 N) |h| rms(x) (measured: 0.68, complex 0.43), and none is greater than 3
+ * units; |h| is the root of the sum of the squares of the taps, rms(x) that of the mean square of the block's
+ * samples.
  */
 #include <zortypes.h>
 
@@ -70,7 +72,8 @@ ZORSAPI(ZorStatus, zorsFIR_16s_Sfs,
 /**
  * Filters a block in place, as above. A single-rate filter takes chunks of 4096 samples, and a chunk goes by
  * overlap-save only where at least 512 samples follow it. A multi-rate filter leaves upFactor * numIters samples
- * where downFactor * numIters were; with upFactor above downFactor it works from a copy, which it allocates.
+ * where downFactor * numIters were; with upFactor above downFactor it works from a copy of at most 2^31 - 1 bytes,
+ * which it allocates.
  * @param pSrcDst samples; receives the filtered samples
  * @param numIters number of iterations
  * @param pState record

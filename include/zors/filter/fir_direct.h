@@ -11,7 +11,7 @@
  * precision; for taps in double precision or of 32 bits both are in double precision. A complex product is (hr xr -
  * hi xi) + i (hr xi + hi xr), its four real products rounded so, their difference and sum in double precision. The
  * sum is formed in a fixed pattern of 32 lanes (complex: 16), product j counted from the oldest sample in lane j mod
- * 32, joined by halves. So all processors give the same bits. Its error is at most (L/32 + 6) 2^-53 sum |p_j|
+ * 32 (16), joined by halves. So all processors give the same bits. Its error is at most (L/32 + 6) 2^-53 sum |p_j|
  * (complex: L/16 + 6) for the products p_j. 16-bit taps on 16-bit data are summed exactly. The result is rounded
  * once, to the type of the data.
  */

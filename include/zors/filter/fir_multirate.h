@@ -14,6 +14,8 @@
  * Every output is one sum over its own taps and samples, formed over lanes of the processor's vectors: with u and
  * the products as in fir.h its error is at most (tapsLen / U + 4) u sum |h| |x|. Its bits do not depend on how the
  * stream is cut into calls. No factor 0 is multiplied with a sample outside a sum, which so may be infinite.
+ * (Records with both factors 1 and those of streams of a single rate are single-rate filters, with the promises of
+ * fir.h.)
  */
 #include <zortypes.h>
 

@@ -80,7 +80,7 @@ ZORSAPI(ZorStatus, zorsFIRMR_Direct_16s_Sfs,
  * @{
  */
 /**
- * Filters a block in place. The call allocates a copy of its input.
+ * Filters a block in place. The call allocates a copy of its input, of at most 2^31 - 1 bytes.
  * @param pSrcDst numIters * D samples; receives numIters * U
  * @param numIters number of iterations
  * @param pTaps taps, h[0] first

@@ -19,10 +19,10 @@
  * A delay line, in the caller's memory, holds the last samples newest first: pDlyLine[0] is x[-1], pDlyLine[1]
  * x[-2]. That of a single-rate record has L samples, that of a multi-rate one ceil(L / upFactor).
  *
- * Taps of 64 samples and more (`Zor64f` arithmetic: 32) are transformed too when the record is made, and long calls
- * then filter by overlap-save; see zorsFIR. (Not those of `_16s`, whose sums are exact up to 2^53.) A record is
- * changed by every call that filters, so one record serves one stream, and one thread at a time. `_16s` records are
- * made by the multi-rate and the stream initialisations alone.
+ * Filters of 64 taps and more (in double precision 32) have their taps transformed too when the record is made, and
+ * long calls then filter by overlap-save; see zorsFIR. (Not those of `_16s`, whose sums are exact up to 2^53 units.)
+ * A record is changed by every call that filters, so one record serves one stream, and one thread at a time. `_16s`
+ * records are made by the multi-rate and the stream initialisations alone.
  */
 #include <zortypes.h>
 
@@ -125,7 +125,8 @@ ZORSAPI(ZorStatus, zorsFIRInit_32s,
  * @param tapsFactor integer taps stand for pTaps * 2^-tapsFactor
  * @param pDlyLine the last @p tapsLen samples, newest first, or null for zeros
  * @return zorStsNullPointer for a null @p ppState or @p pTaps, then zorStsBadFirLength for @p tapsLen below 1, then
- * zorStsBadSize where the size is above 2^31 - 1, then zorStsNoMemory where an allocation fails, else zorStsOk
+ * zorStsBadSize where the size is above 2^31 - 1, then zorStsNoMemory where there is no memory for the record, else
+ * zorStsOk. (Without memory for the transform of a long filter it goes without: it is slower so, and not a mistake.)
  */
 ZORSAPI(ZorStatus, zorsFIRInitAlloc_32f,
         (ZorsFIRState_32f** ppState, const Zor32f* pTaps, int tapsLen, const Zor32f* pDlyLine))
