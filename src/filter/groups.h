@@ -7,8 +7,6 @@
 #include "dot.h"
 #include "layout.h"
 
-#include <numeric>
-
 namespace zors::ZORS_VARIANT {
 
 // 32-bit units of a vector, which its elements are brought to their lanes by.
@@ -36,9 +34,12 @@ struct TapGroup {
     const T* taps(int k) const { return p + width * (2 + k * LaneOf<E>::each); }
 };
 
+// Vectors of outputs until everything repeats. The number of outputs in one is a power of two.
 inline int groupsOf(int upFactor, int groupLength)
 {
-    return upFactor / std::gcd(upFactor, groupLength);
+    int common = 1;
+    while (common < groupLength && upFactor % (2 * common) == 0) common *= 2;
+    return upFactor / common;
 }
 
 // Bytes of the table; 0 where it would be out of proportion, or vectors have no instruction to rearrange them freely.
