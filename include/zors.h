@@ -6,15 +6,21 @@
 #include <zortypes.h>
 
 #include <zors/filter/fir.h>
+#include <zors/filter/fir_design.h>
 #include <zors/filter/fir_direct.h>
 #include <zors/filter/fir_multirate.h>
 #include <zors/filter/fir_multirate_direct.h>
 #include <zors/filter/fir_state.h>
+#include <zors/filter/iir.h>
+#include <zors/filter/iir_design.h>
+#include <zors/filter/iir_direct.h>
+#include <zors/filter/iir_state.h>
 
 #include <zors/frame/memory.h>
 #include <zors/frame/version.h>
 
 #include <zors/generate/random.h>
+#include <zors/generate/tone.h>
 #include <zors/generate/windows.h>
 
 #include <zors/transform/fft_complex.h>

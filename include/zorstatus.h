@@ -62,6 +62,9 @@ static inline const char* zorGetStatusName(ZorStatus status)
         ZOR_STATUS_CASE(zorStsBadChannelCount);
         ZOR_STATUS_CASE(zorStsBadNumChannels);
         ZOR_STATUS_CASE(zorStsBadSparsePositions);
+        ZOR_STATUS_CASE(zorStsBadIirGenOrder);
+        ZOR_STATUS_CASE(zorStsBadIirGenFreq);
+        ZOR_STATUS_CASE(zorStsBadIirGenTolerance);
         ZOR_STATUS_CASE(zorStsBadRoundMode);
         ZOR_STATUS_CASE(zorStsBadAlgType);
     default:

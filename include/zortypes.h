@@ -102,12 +102,15 @@ enum {
     zorStsBadTriangleAsym = -41,      /**< asymmetry out of range */
     zorStsBadTriangleFreq = -42,      /**< frequency outside [0, 0.5) */
     zorStsBadTriangleMagnitude = -43, /**< magnitude not above 0 */
-    zorStsBadToneFreq = -44,          /**< Q15 frequency above 205886 */
-    zorStsBadTonePhase = -45,         /**< Q15 phase above 16383 */
-    zorStsBadToneMagnitude = -46,     /**< Q15 magnitude below 1 */
+    zorStsBadToneFreq = -44,          /**< frequency of a tone out of range */
+    zorStsBadTonePhase = -45,         /**< phase of a tone outside [0, 2 pi) */
+    zorStsBadToneMagnitude = -46,     /**< magnitude of a tone not above 0 */
     zorStsBadChannelCount = -47,      /**< channel count below 1 (integer multi-channel filters) */
     zorStsBadNumChannels = -53,       /**< channel count below 1 (floating multi-channel filters) */
     zorStsBadSparsePositions = -194,  /**< sparse tap positions negative or not strictly increasing */
+    zorStsBadIirGenOrder = -206,      /**< order of an IIR design outside [1, 12] */
+    zorStsBadIirGenFreq = -208,       /**< cut-off of an IIR design outside (0, 0.5) */
+    zorStsBadIirGenTolerance = -209,  /**< ripple of an IIR design outside (0, 29] */
     zorStsBadRoundMode = -213,        /**< rounding mode not supported by this function */
     zorStsBadAlgType = -228           /**< algorithm or normalisation selector not recognised */
 };
@@ -142,6 +145,15 @@ enum {
     zorWinHamming = 2,  /**< zorsWinHamming */
     zorWinHann = 3,     /**< zorsWinHann */
     zorWinRect = 4      /**< no window */
+};
+
+/** The approximation that a recursive filter is designed by. */
+typedef Zor32s ZorIirFilterType;
+
+/** The values of @ref ZorIirFilterType. */
+enum {
+    zorIirButterworth = 0, /**< Butterworth: maximally flat */
+    zorIirChebyshev1 = 1   /**< Chebyshev, type I: equal ripple in the pass-band */
 };
 
 /** How the fast Fourier transforms scale, N being their length: the flag of a record. */
@@ -190,6 +202,26 @@ typedef struct ZorsFIRState64fc_32sc ZorsFIRState64fc_32sc; /**< `64fc` taps, `3
 typedef struct ZorsFIRState64f_16s ZorsFIRState64f_16s;     /**< `64f` taps, `16s` data */
 typedef struct ZorsFIRState64fc_16sc ZorsFIRState64fc_16sc; /**< `64fc` taps, `16sc` data */
 typedef struct ZorsFIRState_16s ZorsFIRState_16s;           /**< `16s` */
+/** @} */
+
+/** @name Records of infinite impulse response filters
+ * Opaque, one type for each pair of taps and data: of filters of any order and of cascades of sections alike.
+ * @{
+ */
+typedef struct ZorsIIRState_32f ZorsIIRState_32f;           /**< `32f` */
+typedef struct ZorsIIRState_32fc ZorsIIRState_32fc;         /**< `32fc` */
+typedef struct ZorsIIRState32f_16s ZorsIIRState32f_16s;     /**< `32f` taps, `16s` data */
+typedef struct ZorsIIRState32fc_16sc ZorsIIRState32fc_16sc; /**< `32fc` taps, `16sc` data */
+typedef struct ZorsIIRState32s_16s ZorsIIRState32s_16s;     /**< `32s` taps, `16s` data */
+typedef struct ZorsIIRState32sc_16sc ZorsIIRState32sc_16sc; /**< `32sc` taps, `16sc` data */
+typedef struct ZorsIIRState_64f ZorsIIRState_64f;           /**< `64f` */
+typedef struct ZorsIIRState_64fc ZorsIIRState_64fc;         /**< `64fc` */
+typedef struct ZorsIIRState64f_32f ZorsIIRState64f_32f;     /**< `64f` taps, `32f` data */
+typedef struct ZorsIIRState64fc_32fc ZorsIIRState64fc_32fc; /**< `64fc` taps, `32fc` data */
+typedef struct ZorsIIRState64f_32s ZorsIIRState64f_32s;     /**< `64f` taps, `32s` data */
+typedef struct ZorsIIRState64fc_32sc ZorsIIRState64fc_32sc; /**< `64fc` taps, `32sc` data */
+typedef struct ZorsIIRState64f_16s ZorsIIRState64f_16s;     /**< `64f` taps, `16s` data */
+typedef struct ZorsIIRState64fc_16sc ZorsIIRState64fc_16sc; /**< `64fc` taps, `16sc` data */
 /** @} */
 
 /** The version record that zorsGetLibVersion() returns. */

@@ -1,4 +1,4 @@
-// Random numbers, formed in double precision, as elements.
+// Numbers formed in double precision, as elements.
 #pragma once
 
 #include "simd/round.h"

@@ -18,6 +18,14 @@ bool nameHas(const Export& e, std::string_view code)
     return e.name.find(code) != std::string::npos;
 }
 
+// A number in [0, most), in single or in double precision.
+void setBelow(double most, void* to, std::size_t size, Random& random)
+{
+    const double value = most * below(1 << 20, random) / (1 << 20);
+    const auto single = static_cast<Zor32f>(value);
+    std::memcpy(to, size == sizeof value ? static_cast<const void*>(&value) : &single, size);
+}
+
 // Scalars with a meaning get values that exercise it; all others any value of their type.
 void setScalar(const Export& e, const Parameter& p, int length, Value& value, Random& random)
 {
@@ -41,7 +49,10 @@ void setScalar(const Export& e, const Parameter& p, int length, Value& value, Ra
         p.randomise(value.data(), 1, random);
         auto* last = static_cast<std::byte*>(value.data()) + p.size - 1;
         *last &= std::byte{0x7f};
-    } else
+        if (nameHas(e, "Tone_")) *last |= std::byte{1}; // nor zero
+    } else if (p.name == "rFreq")
+        setBelow(0.5, value.data(), p.size, random);
+    else
         p.randomise(value.data(), 1, random);
 }
 
@@ -49,6 +60,7 @@ void setScalar(const Export& e, const Parameter& p, int length, Value& value, Ra
 void setVector(const Parameter& p, std::vector<std::byte>& bytes, Random& random)
 {
     p.randomise(bytes.data(), bytes.size() / p.size, random);
+    if (p.name == "pPhase") setBelow(6.28, bytes.data(), p.size, random);
     if (p.name != "pSrcBits") return;
     for (std::size_t at = 0; at < bytes.size(); at += p.size) {
         const Zor32s count = below(9, random); // a byte for each word at the most

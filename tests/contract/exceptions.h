@@ -43,7 +43,9 @@ struct Forbidden {
 inline constexpr Forbidden forbidden[] = {
     {"", "srcBitOffset", zorStsBadSize},
     {"", "dstBitOffset", zorStsBadSize},
-    {"", "magn", zorStsBadJaehneMagnitude},
+    {"zorsVectorJaehne_", "magn", zorStsBadJaehneMagnitude},
+    {"zorsTone_", "magn", zorStsBadToneMagnitude},
+    {"zorsTone_", "rFreq", zorStsBadToneFreq},
     {"zorsDiv_Round_", "rndMode", zorStsBadRoundMode},
     {"zorsConvert_32f16f", "rndMode", zorStsBadRoundMode},
     {"zorsConvert_16s16f", "rndMode", zorStsBadRoundMode},

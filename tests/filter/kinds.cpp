@@ -1,86 +1,10 @@
-#include "filter/kinds.h"
+#include "filter/call.h"
 
 #include <zors.h>
 
 #include <stdexcept>
-#include <tuple>
 
 namespace zors::test {
-namespace {
-
-// A pointer to whatever a function takes.
-struct Untyped {
-    const void* p;
-
-    template <class T>
-    operator T*() const
-    {
-        return static_cast<T*>(const_cast<void*>(p));
-    }
-};
-
-// What a function takes by value.
-struct Value {
-    const void* p;
-
-    template <class T>
-    operator T() const
-    {
-        return *static_cast<const T*>(p);
-    }
-};
-
-std::tuple<Untyped> passed(const void* p)
-{
-    return {{p}};
-}
-
-std::tuple<int> passed(int n)
-{
-    return {n};
-}
-
-std::tuple<int, int, int, int> passed(Rates r)
-{
-    return {r.up, r.upPhase, r.down, r.downPhase};
-}
-
-// Whether a function takes a factor shows in the number of its parameters.
-template <bool factor, class A>
-auto passedIf(A argument)
-{
-    if constexpr (!std::is_same_v<A, Factor>)
-        return passed(argument);
-    else if constexpr (factor)
-        return passed(argument.value);
-    else
-        return std::tuple<>();
-}
-
-template <class... P>
-constexpr std::size_t parameters(ZorStatus (*)(P...))
-{
-    return sizeof...(P);
-}
-
-template <auto function, class... A>
-ZorStatus call(A... arguments)
-{
-    using All = decltype(std::tuple_cat(passedIf<true>(arguments)...));
-    constexpr bool factor = std::tuple_size_v<All> == parameters(function);
-    return std::apply(function, std::tuple_cat(passedIf<factor>(arguments)...));
-}
-
-template <auto function>
-ZorStatus one(const void* src, void* dst, void* state, Factor scaleFactor)
-{
-    if constexpr (requires { function(Value{src}, Untyped{dst}, Untyped{state}, 0); })
-        return function(Value{src}, Untyped{dst}, Untyped{state}, scaleFactor.value);
-    else
-        return function(Value{src}, Untyped{dst}, Untyped{state});
-}
-
-} // namespace
 
 // What records of all rates have, then what multi-rate ones have, then what single-rate ones have.
 #define ZORS_ANY(name, base, taps, data, arithmetic, single, multi, Sfs, I)                                  \

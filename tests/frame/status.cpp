@@ -49,6 +49,9 @@ const std::map<ZorStatus, std::string> names = {
     {-47, "zorStsBadChannelCount"},
     {-53, "zorStsBadNumChannels"},
     {-194, "zorStsBadSparsePositions"},
+    {-206, "zorStsBadIirGenOrder"},
+    {-208, "zorStsBadIirGenFreq"},
+    {-209, "zorStsBadIirGenTolerance"},
     {-213, "zorStsBadRoundMode"},
     {-228, "zorStsBadAlgType"},
 };

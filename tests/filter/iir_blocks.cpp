@@ -1,0 +1,236 @@
+// Recursive filters beside their difference equation: blocks, single samples and channels.
+#include "filter/iir_signal.h"
+#include "support/count.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+#include <gtest/gtest.h>
+#include <memory>
+#include <numeric>
+#include <zors.h>
+
+namespace zors::test {
+namespace {
+
+int mostOf(const IirKind& k)
+{
+    return timeIsShort() ? 3 : k.isCascade() ? 8 : 12;
+}
+
+std::string nameOf(const IirSignal& s)
+{
+    return s.kind.kind.name + ", order or sections " + std::to_string(s.count);
+}
+
+TEST(IirBlocks, AreWithinTheBound)
+{
+    Random random;
+    for (const IirKind& k : iirKinds()) {
+        for (int count = 1; count <= mostOf(k); ++count)
+            for (const double radius : {0.5, 0.9, 0.999}) {
+                const IirSignal s = randomIirSignal(k, count, 150, random, radius);
+                SCOPED_TRACE(nameOf(s) + ", radius " + std::to_string(radius));
+                const IirRecord record(s);
+                ASSERT_TRUE(within(s, run(record, s, {150})));
+            }
+        tellUse(k.kind);
+    }
+}
+
+// Blocks of every length up to 70, and single samples, in place and not, at any place. The same calls have the same
+// bits.
+TEST(IirBlocks, CutAStreamAnywhere)
+{
+    Random random;
+    std::vector<int> growing(70);
+    std::iota(growing.begin(), growing.end(), 1);
+    const int all = std::accumulate(growing.begin(), growing.end(), 0);
+    for (const IirKind& k : iirKinds())
+        for (const int count : {1, 2, 5}) {
+            const IirSignal s = randomIirSignal(k, count, all, random);
+            SCOPED_TRACE(nameOf(s));
+            const IirRecord whole(s), cut(s), inPlace(s), shuffled(s), singly(s);
+            ASSERT_TRUE(within(s, run(whole, s, {all})));
+            const Vector want = run(cut, s, growing);
+            ASSERT_TRUE(within(s, want));
+            ASSERT_TRUE(run(inPlace, s, growing, {true, 1, 0}) == want);
+            ASSERT_TRUE(inPlace.delayLine() == cut.delayLine());
+            ASSERT_TRUE(within(s, run(shuffled, s, randomCalls(all, 70, random), {false, 3, 1}, 0, true)));
+            ASSERT_TRUE(within(s, run(singly, s, equalCalls(all, 1), {}, 0, true)));
+        }
+}
+
+// Around the lengths at which a chunk ends; and another record goes on from the delay line.
+TEST(IirBlocks, AreLong)
+{
+    Random random;
+    for (const IirKind& k : iirKinds())
+        for (const int count : {4, 6, 30}) {
+            if ((timeIsShort() || !k.isCascade()) && count > 6) continue;
+            constexpr int len = 2500;
+            const IirSignal s = randomIirSignal(k, count, len, random, count > 6 ? 0.6 : 0.99);
+            SCOPED_TRACE(nameOf(s));
+            const IirRecord record(s);
+            ASSERT_TRUE(within(s, run(record, s, {len})));
+            for (const int first : {4 * count, 4 * count + 1, 1023, 1024, 1025}) {
+                const IirRecord begun(s), other(s);
+                const Vector want = run(begun, s, {first});
+                const Vector line = begun.delayLine();
+                Vector got(k.kind.data, len);
+                got.copy(0, want, 0, first);
+                got.copy(first, run(begun, s, {len - first}, {}, first), 0, len - first);
+                ASSERT_TRUE(within(s, got)) << "cut at " << first;
+                ASSERT_EQ(k.kind.setDlyLine(other.get(), line.at()), zorStsOk);
+                const Vector rest = run(other, s, {len - first}, {true}, first);
+                ASSERT_EQ(std::memcmp(rest.at(), got.at(first),
+                                      static_cast<std::size_t>((len - first) * k.kind.data.bytes())),
+                          0);
+            }
+        }
+}
+
+// An infinity reaches its output and the following ones, none before it.
+TEST(IirBlocks, OfInfinities)
+{
+    Random random;
+    for (const IirKind& k : iirKinds()) {
+        if (!k.kind.data.isFloating()) continue;
+        for (const int at : {0, 5, 15, 16, 47, 60}) {
+            constexpr int len = 70;
+            IirSignal s = randomIirSignal(k, 3, len, random);
+            const auto parts = static_cast<std::size_t>(k.kind.data.parts),
+                       place = static_cast<std::size_t>(at) * parts;
+            Numbers samples = s.samples.numbers();
+            samples[place] = INFINITY;
+            s.samples = Vector(k.kind.data, samples);
+            s.expected.values.resize(place);
+            const IirRecord record(s);
+            const Vector got = run(record, s, {len});
+            ASSERT_TRUE(at == 0 || within(s, got)) << nameOf(s) << ", at " << at;
+            const Numbers numbers = got.numbers();
+            for (std::size_t i = place; i < numbers.size(); i += parts)
+                ASSERT_FALSE(std::isfinite(numbers[i])) << nameOf(s) << ", at " << at << ", number " << i;
+        }
+    }
+}
+
+// What grows without bound ends as infinities or no numbers, and until then is what it should be.
+TEST(IirBlocks, OfUnstableFilters)
+{
+    Random random;
+    for (const IirKind& k : iirKinds()) {
+        if (!k.kind.data.isFloating() || k.kind.data.number != k.kind.arithmetic) continue;
+        const double most = k.kind.isNarrow() ? 0x1p120 : 0x1p1000;
+        const int len = k.kind.isNarrow() ? 500 : 2500;
+        const IirSignal s = randomIirSignal(k, 2, len, random, 4);
+        const IirRecord record(s);
+        const Numbers got = run(record, s, {len}).numbers();
+        std::size_t finite = 0;
+        while (finite < got.size() && std::abs(s.expected.values[finite]) < most) ++finite;
+        ASSERT_LT(finite, got.size()) << nameOf(s);
+        for (std::size_t i = 0; i < finite; ++i)
+            ASSERT_TRUE(std::abs(got[i] - static_cast<double>(s.expected.values[i])) <=
+                        s.expected.magnitudes[i])
+                << nameOf(s) << ", number " << i;
+        EXPECT_FALSE(std::isfinite(got.back())) << nameOf(s);
+    }
+}
+
+// A response known by hand, and a filter back at rest.
+TEST(IirBlocks, HalveAnImpulse)
+{
+    const Zor32f taps[] = {1, 0, 1, -0.5f};
+    ZorsIIRState_32f* state = nullptr;
+    ASSERT_EQ(zorsIIRInitAlloc_32f(&state, taps, 1, nullptr), zorStsOk);
+    for (int again = 0; again < 2; ++again) {
+        Zor32f x[100] = {1};
+        ASSERT_EQ(zorsIIR_32f_I(x, 100, state), zorStsOk);
+        for (int n = 0; n < 100; ++n) ASSERT_EQ(x[n], std::ldexp(1.0f, -n));
+        ASSERT_EQ(zorsIIRSetDlyLine_32f(state, nullptr), zorStsOk);
+    }
+    EXPECT_EQ(zorsIIRFree_32f(state), zorStsOk);
+}
+
+// Several channels, of any structures: the bits of each alone.
+template <class State, class T, class Run, class RunInPlace>
+void checkChannels(const std::vector<const IirKind*>& kinds, Run all, RunInPlace allInPlace)
+{
+    Random random;
+    constexpr int len = 1100, channels = 7;
+    std::vector<IirSignal> signals;
+    for (int c = 0; c < channels; ++c)
+        signals.push_back(
+            randomIirSignal(*kinds[static_cast<std::size_t>(c) % kinds.size()], 1 + c, len, random));
+    std::vector<Vector> dst(channels, Vector(kinds[0]->kind.data, len)), inPlace = dst;
+    std::vector<std::unique_ptr<IirRecord>> first, second, alone;
+    std::vector<const T*> pSrc;
+    std::vector<T*> pDst, pBoth;
+    std::vector<State*> pFirst, pSecond;
+    for (std::size_t c = 0; c < channels; ++c) {
+        for (auto* records : {&first, &second, &alone})
+            records->push_back(std::make_unique<IirRecord>(signals[c]));
+        inPlace[c].copy(0, signals[c].samples, 0, len);
+        pSrc.push_back(reinterpret_cast<const T*>(signals[c].samples.at()));
+        pDst.push_back(reinterpret_cast<T*>(dst[c].at()));
+        pBoth.push_back(reinterpret_cast<T*>(inPlace[c].at()));
+        pFirst.push_back(static_cast<State*>(first[c]->get()));
+        pSecond.push_back(static_cast<State*>(second[c]->get()));
+        signals[c].scaleFactor = signals[0].scaleFactor;
+    }
+    const int scaleFactor = signals[0].scaleFactor;
+    ASSERT_EQ(all(pSrc.data(), pDst.data(), len, channels, pFirst.data(), scaleFactor), zorStsOk);
+    ASSERT_EQ(allInPlace(pBoth.data(), len, channels, pSecond.data(), scaleFactor), zorStsOk);
+    for (std::size_t c = 0; c < channels; ++c) {
+        const Vector want = run(*alone[c], signals[c], {len});
+        EXPECT_TRUE(dst[c] == want && inPlace[c] == want) << "channel " << c;
+        EXPECT_TRUE(first[c]->delayLine() == alone[c]->delayLine()) << "channel " << c;
+        compared(len);
+    }
+    // Every fault, found before anything is written.
+    const std::vector<Vector> before = dst;
+    State* const last = pFirst[channels - 1];
+    const auto status = [&](int samples, int count) {
+        return all(pSrc.data(), pDst.data(), samples, count, pFirst.data(), scaleFactor);
+    };
+    const ZorStatus badCount = std::is_same_v<T, Zor32f> ? zorStsBadNumChannels : zorStsBadChannelCount;
+    EXPECT_EQ(all(nullptr, pDst.data(), 0, 0, pFirst.data(), 0), zorStsNullPointer);
+    EXPECT_EQ(all(pSrc.data(), nullptr, 0, 0, pFirst.data(), 0), zorStsNullPointer);
+    EXPECT_EQ(all(pSrc.data(), pDst.data(), 0, 0, nullptr, 0), zorStsNullPointer);
+    EXPECT_EQ(allInPlace(nullptr, 0, 0, pFirst.data(), 0), zorStsNullPointer);
+    EXPECT_EQ(status(0, 0), zorStsBadSize);
+    EXPECT_EQ(status(len, 0), badCount);
+    EXPECT_EQ(allInPlace(pBoth.data(), len, -1, pFirst.data(), 0), badCount);
+    auto& tag = *reinterpret_cast<Zor32u*>(last);
+    tag ^= 1;
+    EXPECT_EQ(status(len, channels), zorStsWrongContext);
+    pDst[channels - 2] = nullptr;
+    EXPECT_EQ(status(len, channels), zorStsNullPointer);
+    pFirst[channels - 3] = nullptr;
+    EXPECT_EQ(status(len, channels), zorStsNullPointer);
+    tag ^= 1;
+    EXPECT_TRUE(dst == before);
+}
+
+TEST(IirChannels, AreFiltersOfTheirOwn)
+{
+    std::vector<const IirKind*> narrow, wide;
+    for (const IirKind& k : iirKinds()) {
+        if (k.kind.name == "_32f" || k.kind.name == "_BiQuad_32f" || k.kind.name == "_BiQuad_DF1_32f")
+            narrow.push_back(&k);
+        if (k.kind.name == "64f_32s") wide.push_back(&k);
+    }
+    ASSERT_EQ(narrow.size(), 3U);
+    checkChannels<ZorsIIRState_32f, Zor32f>(
+        narrow,
+        [](auto src, auto dst, int len, int channels, auto states, int) {
+            return zorsIIR_32f_P(src, dst, len, channels, states);
+        },
+        [](auto both, int len, int channels, auto states, int) {
+            return zorsIIR_32f_IP(both, len, channels, states);
+        });
+    checkChannels<ZorsIIRState64f_32s, Zor32s>(wide, zorsIIR64f_32s_PSfs, zorsIIR64f_32s_IPSfs);
+}
+
+} // namespace
+} // namespace zors::test
