@@ -172,8 +172,7 @@ double transformUnit(const Signal& s)
 
 bool timeIsShort()
 {
-    const char* limit = std::getenv("ZORS_TEST_MOST_ORDER");
-    return limit && std::atoi(limit) <= 10;
+    return std::getenv("ZORS_TEST_MOST_ORDER") != nullptr;
 }
 
 } // namespace zors::test

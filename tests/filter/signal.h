@@ -64,7 +64,7 @@ std::vector<int> equalCalls(std::ptrdiff_t all, int length);
 double transformUnit(const Signal& signal);
 inline constexpr double errorOfTransforms = 3;
 
-// Where time is short, as under emulation, the environment says so.
+// Where time is short, as under sanitizers and emulation, the environment limits transforms, and this too.
 bool timeIsShort();
 
 } // namespace zors::test
