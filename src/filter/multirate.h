@@ -210,7 +210,7 @@ void filterGroups(const FilterRecord<E>& r, const E* pSrc, E* pDst, int numIters
     const auto stepSamples = static_cast<int>(step / r.upFactor),
                stepPhases = static_cast<int>(step % r.upFactor);
     std::ptrdiff_t left = std::ptrdiff_t{numIters} * r.upFactor;
-    // Blocks periods at once, or one.
+    // Blocks periods at once, or one; returns the number of their outputs.
     const auto pass = [&](auto count) {
         Place place = placeOf(r, 0);
         const T* table = groupTable(r);
@@ -233,10 +233,10 @@ void filterGroups(const FilterRecord<E>& r, const E* pSrc, E* pDst, int numIters
         }
         pSrc += count * samplesOn;
         pDst += count * period;
-        left -= count * period;
+        return count * period;
     };
-    while (left >= blocks * period) pass(std::integral_constant<int, blocks>{});
-    while (left > 0) pass(std::integral_constant<int, 1>{});
+    while (left >= blocks * period) left -= pass(std::integral_constant<int, blocks>{});
+    while (left > 0) left -= pass(std::integral_constant<int, 1>{});
 }
 
 // The same where nothing behind the last sample may be read: the last iterations are filtered from within the buffer,
