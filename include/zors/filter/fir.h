@@ -33,13 +33,38 @@
  * @param pDst receives the filtered samples
  * @param numIters number of iterations
  * @param pState record
- * @param scaleFactor integer results are multiplied by 2^-scaleFactor; any value
  * @return zorStsNullPointer for a null pointer, then zorStsBadSize for @p numIters below 1, then zorStsWrongContext
  * for a record of other types, in place also for one of a stream, then zorStsNoMemory where a multi-rate filter in
  * place with upFactor above downFactor finds no memory for a copy of its input, else zorStsOk
  */
 ZORSAPI(ZorStatus, zorsFIR_32f, (const Zor32f* pSrc, Zor32f* pDst, int numIters, ZorsFIRState_32f* pState))
 ZORSAPI(ZorStatus, zorsFIR_32fc, (const Zor32fc* pSrc, Zor32fc* pDst, int numIters, ZorsFIRState_32fc* pState))
+ZORSAPI(ZorStatus, zorsFIR_64f, (const Zor64f* pSrc, Zor64f* pDst, int numIters, ZorsFIRState_64f* pState))
+ZORSAPI(ZorStatus, zorsFIR_64fc, (const Zor64fc* pSrc, Zor64fc* pDst, int numIters, ZorsFIRState_64fc* pState))
+ZORSAPI(ZorStatus, zorsFIR64f_32f,
+        (const Zor32f* pSrc, Zor32f* pDst, int numIters, ZorsFIRState64f_32f* pState))
+ZORSAPI(ZorStatus, zorsFIR64fc_32fc,
+        (const Zor32fc* pSrc, Zor32fc* pDst, int numIters, ZorsFIRState64fc_32fc* pState))
+/** @} */
+
+/** @name Blocks, with a scale factor
+ * @{
+ */
+/**
+ * Filters a block. A single-rate record: pDst[n] = y[n] for n = 0 ... numIters-1. A multi-rate record: @p numIters
+ * iterations, each of downFactor samples of @p pSrc and upFactor of @p pDst; see fir_multirate.h. A stream record
+ * reads the samples before the block from the memory before @p pSrc, see there too. Results in integers are y *
+ * 2^-scaleFactor, rounded to nearest, ties to even, and saturated.
+ * @p pSrc and @p pDst must not overlap; where they are the same vector the call is that of the form in place.
+ * @param pSrc samples
+ * @param pDst receives the filtered samples
+ * @param numIters number of iterations
+ * @param pState record
+ * @param scaleFactor integer results are multiplied by 2^-scaleFactor; any value
+ * @return zorStsNullPointer for a null pointer, then zorStsBadSize for @p numIters below 1, then zorStsWrongContext
+ * for a record of other types, in place also for one of a stream, then zorStsNoMemory where a multi-rate filter in
+ * place with upFactor above downFactor finds no memory for a copy of its input, else zorStsOk
+ */
 ZORSAPI(ZorStatus, zorsFIR32f_16s_Sfs,
         (const Zor16s* pSrc, Zor16s* pDst, int numIters, ZorsFIRState32f_16s* pState, int scaleFactor))
 ZORSAPI(ZorStatus, zorsFIR32fc_16sc_Sfs,
@@ -48,12 +73,6 @@ ZORSAPI(ZorStatus, zorsFIR32s_16s_Sfs,
         (const Zor16s* pSrc, Zor16s* pDst, int numIters, ZorsFIRState32s_16s* pState, int scaleFactor))
 ZORSAPI(ZorStatus, zorsFIR32sc_16sc_Sfs,
         (const Zor16sc* pSrc, Zor16sc* pDst, int numIters, ZorsFIRState32sc_16sc* pState, int scaleFactor))
-ZORSAPI(ZorStatus, zorsFIR_64f, (const Zor64f* pSrc, Zor64f* pDst, int numIters, ZorsFIRState_64f* pState))
-ZORSAPI(ZorStatus, zorsFIR_64fc, (const Zor64fc* pSrc, Zor64fc* pDst, int numIters, ZorsFIRState_64fc* pState))
-ZORSAPI(ZorStatus, zorsFIR64f_32f,
-        (const Zor32f* pSrc, Zor32f* pDst, int numIters, ZorsFIRState64f_32f* pState))
-ZORSAPI(ZorStatus, zorsFIR64fc_32fc,
-        (const Zor32fc* pSrc, Zor32fc* pDst, int numIters, ZorsFIRState64fc_32fc* pState))
 ZORSAPI(ZorStatus, zorsFIR64f_32s_Sfs,
         (const Zor32s* pSrc, Zor32s* pDst, int numIters, ZorsFIRState64f_32s* pState, int scaleFactor))
 ZORSAPI(ZorStatus, zorsFIR64fc_32sc_Sfs,
@@ -77,13 +96,34 @@ ZORSAPI(ZorStatus, zorsFIR_16s_Sfs,
  * @param pSrcDst samples; receives the filtered samples
  * @param numIters number of iterations
  * @param pState record
- * @param scaleFactor integer results are multiplied by 2^-scaleFactor; any value
  * @return zorStsNullPointer for a null pointer, then zorStsBadSize for @p numIters below 1, then zorStsWrongContext
  * for a record of other types or of a stream, then zorStsNoMemory where there is no memory for the copy, else
  * zorStsOk
  */
 ZORSAPI(ZorStatus, zorsFIR_32f_I, (Zor32f* pSrcDst, int numIters, ZorsFIRState_32f* pState))
 ZORSAPI(ZorStatus, zorsFIR_32fc_I, (Zor32fc* pSrcDst, int numIters, ZorsFIRState_32fc* pState))
+ZORSAPI(ZorStatus, zorsFIR_64f_I, (Zor64f* pSrcDst, int numIters, ZorsFIRState_64f* pState))
+ZORSAPI(ZorStatus, zorsFIR_64fc_I, (Zor64fc* pSrcDst, int numIters, ZorsFIRState_64fc* pState))
+ZORSAPI(ZorStatus, zorsFIR64f_32f_I, (Zor32f* pSrcDst, int numIters, ZorsFIRState64f_32f* pState))
+ZORSAPI(ZorStatus, zorsFIR64fc_32fc_I, (Zor32fc* pSrcDst, int numIters, ZorsFIRState64fc_32fc* pState))
+/** @} */
+
+/** @name Blocks in place, with a scale factor
+ * @{
+ */
+/**
+ * Filters a block in place, as above. A single-rate filter takes chunks of 4096 samples, and a chunk goes by
+ * overlap-save only where at least 512 samples follow it. A multi-rate filter leaves upFactor * numIters samples
+ * where downFactor * numIters were; with upFactor above downFactor it works from a copy of at most 2^31 - 1 bytes,
+ * which it allocates.
+ * @param pSrcDst samples; receives the filtered samples
+ * @param numIters number of iterations
+ * @param pState record
+ * @param scaleFactor integer results are multiplied by 2^-scaleFactor; any value
+ * @return zorStsNullPointer for a null pointer, then zorStsBadSize for @p numIters below 1, then zorStsWrongContext
+ * for a record of other types or of a stream, then zorStsNoMemory where there is no memory for the copy, else
+ * zorStsOk
+ */
 ZORSAPI(ZorStatus, zorsFIR32f_16s_ISfs,
         (Zor16s* pSrcDst, int numIters, ZorsFIRState32f_16s* pState, int scaleFactor))
 ZORSAPI(ZorStatus, zorsFIR32fc_16sc_ISfs,
@@ -92,10 +132,6 @@ ZORSAPI(ZorStatus, zorsFIR32s_16s_ISfs,
         (Zor16s* pSrcDst, int numIters, ZorsFIRState32s_16s* pState, int scaleFactor))
 ZORSAPI(ZorStatus, zorsFIR32sc_16sc_ISfs,
         (Zor16sc* pSrcDst, int numIters, ZorsFIRState32sc_16sc* pState, int scaleFactor))
-ZORSAPI(ZorStatus, zorsFIR_64f_I, (Zor64f* pSrcDst, int numIters, ZorsFIRState_64f* pState))
-ZORSAPI(ZorStatus, zorsFIR_64fc_I, (Zor64fc* pSrcDst, int numIters, ZorsFIRState_64fc* pState))
-ZORSAPI(ZorStatus, zorsFIR64f_32f_I, (Zor32f* pSrcDst, int numIters, ZorsFIRState64f_32f* pState))
-ZORSAPI(ZorStatus, zorsFIR64fc_32fc_I, (Zor32fc* pSrcDst, int numIters, ZorsFIRState64fc_32fc* pState))
 ZORSAPI(ZorStatus, zorsFIR64f_32s_ISfs,
         (Zor32s* pSrcDst, int numIters, ZorsFIRState64f_32s* pState, int scaleFactor))
 ZORSAPI(ZorStatus, zorsFIR64fc_32sc_ISfs,
@@ -116,12 +152,30 @@ ZORSAPI(ZorStatus, zorsFIR_16s_ISfs, (Zor16s* pSrcDst, int numIters, ZorsFIRStat
  * @param src sample
  * @param pDst receives the filtered sample
  * @param pState single-rate record
- * @param scaleFactor integer results are multiplied by 2^-scaleFactor; any value
  * @return zorStsNullPointer for a null pointer, then zorStsWrongContext for a record that is not of a single-rate
  * filter of these types, else zorStsOk
  */
 ZORSAPI(ZorStatus, zorsFIROne_32f, (Zor32f src, Zor32f* pDst, ZorsFIRState_32f* pState))
 ZORSAPI(ZorStatus, zorsFIROne_32fc, (Zor32fc src, Zor32fc* pDst, ZorsFIRState_32fc* pState))
+ZORSAPI(ZorStatus, zorsFIROne_64f, (Zor64f src, Zor64f* pDst, ZorsFIRState_64f* pState))
+ZORSAPI(ZorStatus, zorsFIROne_64fc, (Zor64fc src, Zor64fc* pDst, ZorsFIRState_64fc* pState))
+ZORSAPI(ZorStatus, zorsFIROne64f_32f, (Zor32f src, Zor32f* pDst, ZorsFIRState64f_32f* pState))
+ZORSAPI(ZorStatus, zorsFIROne64fc_32fc, (Zor32fc src, Zor32fc* pDst, ZorsFIRState64fc_32fc* pState))
+/** @} */
+
+/** @name One sample, with a scale factor
+ * @{
+ */
+/**
+ * Filters one sample: the next of the stream. The sum is formed in another order than in blocks, over lanes of the
+ * processor's vectors, within the same bound.
+ * @param src sample
+ * @param pDst receives the filtered sample
+ * @param pState single-rate record
+ * @param scaleFactor integer results are multiplied by 2^-scaleFactor; any value
+ * @return zorStsNullPointer for a null pointer, then zorStsWrongContext for a record that is not of a single-rate
+ * filter of these types, else zorStsOk
+ */
 ZORSAPI(ZorStatus, zorsFIROne32f_16s_Sfs,
         (Zor16s src, Zor16s* pDst, ZorsFIRState32f_16s* pState, int scaleFactor))
 ZORSAPI(ZorStatus, zorsFIROne32fc_16sc_Sfs,
@@ -130,10 +184,6 @@ ZORSAPI(ZorStatus, zorsFIROne32s_16s_Sfs,
         (Zor16s src, Zor16s* pDst, ZorsFIRState32s_16s* pState, int scaleFactor))
 ZORSAPI(ZorStatus, zorsFIROne32sc_16sc_Sfs,
         (Zor16sc src, Zor16sc* pDst, ZorsFIRState32sc_16sc* pState, int scaleFactor))
-ZORSAPI(ZorStatus, zorsFIROne_64f, (Zor64f src, Zor64f* pDst, ZorsFIRState_64f* pState))
-ZORSAPI(ZorStatus, zorsFIROne_64fc, (Zor64fc src, Zor64fc* pDst, ZorsFIRState_64fc* pState))
-ZORSAPI(ZorStatus, zorsFIROne64f_32f, (Zor32f src, Zor32f* pDst, ZorsFIRState64f_32f* pState))
-ZORSAPI(ZorStatus, zorsFIROne64fc_32fc, (Zor32fc src, Zor32fc* pDst, ZorsFIRState64fc_32fc* pState))
 ZORSAPI(ZorStatus, zorsFIROne64f_32s_Sfs,
         (Zor32s src, Zor32s* pDst, ZorsFIRState64f_32s* pState, int scaleFactor))
 ZORSAPI(ZorStatus, zorsFIROne64fc_32sc_Sfs,

@@ -58,7 +58,6 @@ ZORSAPI(ZorStatus, zorsFIRMRGetStateSize_16s, (int tapsLen, int upFactor, int do
  * @param ppState receives the record
  * @param pTaps taps, h[0] first
  * @param tapsLen number of taps
- * @param tapsFactor integer taps stand for pTaps * 2^-tapsFactor
  * @param upFactor factor U of raising the rate
  * @param upPhase place of the first sample among U, in [0, U)
  * @param downFactor factor D of lowering the rate
@@ -81,12 +80,6 @@ ZORSAPI(ZorStatus, zorsFIRMRInit32f_16s,
 ZORSAPI(ZorStatus, zorsFIRMRInit32fc_16sc,
         (ZorsFIRState32fc_16sc** ppState, const Zor32fc* pTaps, int tapsLen, int upFactor, int upPhase,
          int downFactor, int downPhase, const Zor16sc* pDlyLine, Zor8u* pBuffer))
-ZORSAPI(ZorStatus, zorsFIRMRInit32s_16s,
-        (ZorsFIRState32s_16s** ppState, const Zor32s* pTaps, int tapsLen, int tapsFactor, int upFactor,
-         int upPhase, int downFactor, int downPhase, const Zor16s* pDlyLine, Zor8u* pBuffer))
-ZORSAPI(ZorStatus, zorsFIRMRInit32sc_16sc,
-        (ZorsFIRState32sc_16sc** ppState, const Zor32sc* pTaps, int tapsLen, int tapsFactor, int upFactor,
-         int upPhase, int downFactor, int downPhase, const Zor16sc* pDlyLine, Zor8u* pBuffer))
 ZORSAPI(ZorStatus, zorsFIRMRInit_64f,
         (ZorsFIRState_64f** ppState, const Zor64f* pTaps, int tapsLen, int upFactor, int upPhase,
          int downFactor, int downPhase, const Zor64f* pDlyLine, Zor8u* pBuffer))
@@ -111,6 +104,34 @@ ZORSAPI(ZorStatus, zorsFIRMRInit64f_16s,
 ZORSAPI(ZorStatus, zorsFIRMRInit64fc_16sc,
         (ZorsFIRState64fc_16sc** ppState, const Zor64fc* pTaps, int tapsLen, int upFactor, int upPhase,
          int downFactor, int downPhase, const Zor16sc* pDlyLine, Zor8u* pBuffer))
+/** @} */
+
+/** @name Initialisation of a multi-rate record in the caller's memory, of integer taps
+ * @{
+ */
+/**
+ * Makes a multi-rate record in memory of the caller. The record points into itself and must not be moved. With both
+ * factors 1 it is a single-rate record (`_16s`, which has none, excepted).
+ * @param ppState receives the record
+ * @param pTaps taps, h[0] first
+ * @param tapsLen number of taps
+ * @param tapsFactor integer taps stand for pTaps * 2^-tapsFactor
+ * @param upFactor factor U of raising the rate
+ * @param upPhase place of the first sample among U, in [0, U)
+ * @param downFactor factor D of lowering the rate
+ * @param downPhase place of the first kept output among D, in [0, D)
+ * @param pDlyLine the last ceil(tapsLen / U) samples, newest first, or null for zeros
+ * @param pBuffer memory of the size that zorsFIRMRGetStateSize tells, for as long as the record is used
+ * @return zorStsNullPointer for a null @p ppState, @p pTaps or @p pBuffer, then zorStsBadFirLength for @p tapsLen
+ * below 1, then zorStsBadMultiRateFactor for a factor below 1, then zorStsBadMultiRatePhase for a phase outside its
+ * range, then zorStsBadSize where the size is above 2^31 - 1, else zorStsOk
+ */
+ZORSAPI(ZorStatus, zorsFIRMRInit32s_16s,
+        (ZorsFIRState32s_16s** ppState, const Zor32s* pTaps, int tapsLen, int tapsFactor, int upFactor,
+         int upPhase, int downFactor, int downPhase, const Zor16s* pDlyLine, Zor8u* pBuffer))
+ZORSAPI(ZorStatus, zorsFIRMRInit32sc_16sc,
+        (ZorsFIRState32sc_16sc** ppState, const Zor32sc* pTaps, int tapsLen, int tapsFactor, int upFactor,
+         int upPhase, int downFactor, int downPhase, const Zor16sc* pDlyLine, Zor8u* pBuffer))
 ZORSAPI(ZorStatus, zorsFIRMRInit_16s,
         (ZorsFIRState_16s** ppState, const Zor16s* pTaps, int tapsLen, int tapsFactor, int upFactor,
          int upPhase, int downFactor, int downPhase, const Zor16s* pDlyLine, Zor8u* pBuffer))
@@ -124,7 +145,6 @@ ZORSAPI(ZorStatus, zorsFIRMRInit_16s,
  * @param ppState receives the record; unchanged after an error
  * @param pTaps taps, h[0] first
  * @param tapsLen number of taps
- * @param tapsFactor integer taps stand for pTaps * 2^-tapsFactor
  * @param upFactor factor U of raising the rate
  * @param upPhase place of the first sample among U, in [0, U)
  * @param downFactor factor D of lowering the rate
@@ -145,12 +165,6 @@ ZORSAPI(ZorStatus, zorsFIRMRInitAlloc32f_16s,
 ZORSAPI(ZorStatus, zorsFIRMRInitAlloc32fc_16sc,
         (ZorsFIRState32fc_16sc** ppState, const Zor32fc* pTaps, int tapsLen, int upFactor, int upPhase,
          int downFactor, int downPhase, const Zor16sc* pDlyLine))
-ZORSAPI(ZorStatus, zorsFIRMRInitAlloc32s_16s,
-        (ZorsFIRState32s_16s** ppState, const Zor32s* pTaps, int tapsLen, int tapsFactor, int upFactor,
-         int upPhase, int downFactor, int downPhase, const Zor16s* pDlyLine))
-ZORSAPI(ZorStatus, zorsFIRMRInitAlloc32sc_16sc,
-        (ZorsFIRState32sc_16sc** ppState, const Zor32sc* pTaps, int tapsLen, int tapsFactor, int upFactor,
-         int upPhase, int downFactor, int downPhase, const Zor16sc* pDlyLine))
 ZORSAPI(ZorStatus, zorsFIRMRInitAlloc_64f,
         (ZorsFIRState_64f** ppState, const Zor64f* pTaps, int tapsLen, int upFactor, int upPhase,
          int downFactor, int downPhase, const Zor64f* pDlyLine))
@@ -177,6 +191,31 @@ ZORSAPI(ZorStatus, zorsFIRMRInitAlloc64fc_16sc,
          int downFactor, int downPhase, const Zor16sc* pDlyLine))
 /** @} */
 
+/** @name Allocation and initialisation of a multi-rate record, of integer taps
+ * @{
+ */
+/**
+ * Makes a multi-rate record in memory of the library, to be released by zorsFIRFree.
+ * @param ppState receives the record; unchanged after an error
+ * @param pTaps taps, h[0] first
+ * @param tapsLen number of taps
+ * @param tapsFactor integer taps stand for pTaps * 2^-tapsFactor
+ * @param upFactor factor U of raising the rate
+ * @param upPhase place of the first sample among U, in [0, U)
+ * @param downFactor factor D of lowering the rate
+ * @param downPhase place of the first kept output among D, in [0, D)
+ * @param pDlyLine the last ceil(tapsLen / U) samples, newest first, or null for zeros
+ * @return zorStsNullPointer for a null @p ppState or @p pTaps, then as zorsFIRMRInit, then zorStsNoMemory where an
+ * allocation fails, else zorStsOk
+ */
+ZORSAPI(ZorStatus, zorsFIRMRInitAlloc32s_16s,
+        (ZorsFIRState32s_16s** ppState, const Zor32s* pTaps, int tapsLen, int tapsFactor, int upFactor,
+         int upPhase, int downFactor, int downPhase, const Zor16s* pDlyLine))
+ZORSAPI(ZorStatus, zorsFIRMRInitAlloc32sc_16sc,
+        (ZorsFIRState32sc_16sc** ppState, const Zor32sc* pTaps, int tapsLen, int tapsFactor, int upFactor,
+         int upPhase, int downFactor, int downPhase, const Zor16sc* pDlyLine))
+/** @} */
+
 /** @name Size of a stream record
  * @{
  */
@@ -193,7 +232,7 @@ ZORSAPI(ZorStatus, zorsFIRMRStreamGetStateSize_16s, (int tapsLen, int* pStateSiz
 ZORSAPI(ZorStatus, zorsFIRMRStreamGetStateSize_32f, (int tapsLen, int* pStateSize))
 /** @} */
 
-/** @name Initialisation of a stream record
+/** @name Initialisation of a stream record, of integer taps
  * @{
  */
 /**
@@ -210,11 +249,27 @@ ZORSAPI(ZorStatus, zorsFIRMRStreamGetStateSize_32f, (int tapsLen, int* pStateSiz
  */
 ZORSAPI(ZorStatus, zorsFIRStreamInit_16s,
         (ZorsFIRState_16s** ppState, const Zor16s* pTaps, int tapsLen, int tapsFactor, Zor8u* pBuffer))
+/** @} */
+
+/** @name Initialisation of a stream record
+ * @{
+ */
+/**
+ * Makes the record of a filter that keeps no samples: zorsFIR, out of place, reads those before the block from the
+ * memory before it. The caller's pSrc points at the first new sample, and tapsLen - 1 older ones stand before it in
+ * time order. Blocks of one long vector so can be filtered in any order.
+ * @param ppState receives the record
+ * @param pTaps taps, h[0] first
+ * @param tapsLen number of taps
+ * @param pBuffer memory of the size that zorsFIRStreamGetStateSize tells, for as long as the record is used
+ * @return zorStsNullPointer for a null pointer, then zorStsBadFirLength for @p tapsLen below 1, then zorStsBadSize
+ * where the size is above 2^31 - 1, else zorStsOk
+ */
 ZORSAPI(ZorStatus, zorsFIRStreamInit_32f,
         (ZorsFIRState_32f** ppState, const Zor32f* pTaps, int tapsLen, Zor8u* pBuffer))
 /** @} */
 
-/** @name Initialisation of a multi-rate stream record
+/** @name Initialisation of a multi-rate stream record, of integer taps
  * @{
  */
 /**
@@ -236,6 +291,26 @@ ZORSAPI(ZorStatus, zorsFIRStreamInit_32f,
 ZORSAPI(ZorStatus, zorsFIRMRStreamInit_16s,
         (ZorsFIRState_16s** ppState, const Zor16s* pTaps, int tapsLen, int tapsFactor, int upFactor,
          int upPhase, int downFactor, int downPhase, Zor8u* pBuffer))
+/** @} */
+
+/** @name Initialisation of a multi-rate stream record
+ * @{
+ */
+/**
+ * The same for a multi-rate filter: before pSrc stand the samples that the first outputs need, at most ceil(tapsLen
+ * / U) of them, and ceil(tapsLen / U) - 1 where downPhase is not below upPhase.
+ * @param ppState receives the record
+ * @param pTaps taps, h[0] first
+ * @param tapsLen number of taps
+ * @param upFactor factor U of raising the rate
+ * @param upPhase place of the first sample among U, in [0, U)
+ * @param downFactor factor D of lowering the rate
+ * @param downPhase place of the first kept output among D, in [0, D)
+ * @param pBuffer memory of the size that zorsFIRMRStreamGetStateSize tells, for as long as the record is used
+ * @return zorStsNullPointer for a null pointer, then zorStsBadFirLength for @p tapsLen below 1, then
+ * zorStsBadMultiRateFactor for a factor below 1, then zorStsBadMultiRatePhase for a phase outside its range, then
+ * zorStsBadSize where the size is above 2^31 - 1, else zorStsOk
+ */
 ZORSAPI(ZorStatus, zorsFIRMRStreamInit_32f,
         (ZorsFIRState_32f** ppState, const Zor32f* pTaps, int tapsLen, int upFactor, int upPhase,
          int downFactor, int downPhase, Zor8u* pBuffer))

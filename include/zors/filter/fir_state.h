@@ -65,7 +65,6 @@ ZORSAPI(ZorStatus, zorsFIRGetStateSize64fc_16sc, (int tapsLen, int* pStateSize))
  * @param ppState receives the record
  * @param pTaps taps, h[0] first
  * @param tapsLen number of taps
- * @param tapsFactor integer taps stand for pTaps * 2^-tapsFactor
  * @param pDlyLine the last @p tapsLen samples, newest first, or null for zeros
  * @param pBuffer memory of the size that zorsFIRGetStateSize tells, for as long as the record is used
  * @return zorStsNullPointer for a null @p ppState, @p pTaps or @p pBuffer, then zorStsBadFirLength for @p tapsLen
@@ -80,14 +79,8 @@ ZORSAPI(ZorStatus, zorsFIRInit32f_16s,
 ZORSAPI(ZorStatus, zorsFIRInit32fc_16sc,
         (ZorsFIRState32fc_16sc** ppState, const Zor32fc* pTaps, int tapsLen, const Zor16sc* pDlyLine,
          Zor8u* pBuffer))
-ZORSAPI(ZorStatus, zorsFIRInit32s_16s,
-        (ZorsFIRState32s_16s** ppState, const Zor32s* pTaps, int tapsLen, int tapsFactor,
-         const Zor16s* pDlyLine, Zor8u* pBuffer))
 ZORSAPI(ZorStatus, zorsFIRInit32s_16s32f,
         (ZorsFIRState32s_16s** ppState, const Zor32f* pTaps, int tapsLen, const Zor16s* pDlyLine, Zor8u* pBuffer))
-ZORSAPI(ZorStatus, zorsFIRInit32sc_16sc,
-        (ZorsFIRState32sc_16sc** ppState, const Zor32sc* pTaps, int tapsLen, int tapsFactor,
-         const Zor16sc* pDlyLine, Zor8u* pBuffer))
 ZORSAPI(ZorStatus, zorsFIRInit32sc_16sc32fc,
         (ZorsFIRState32sc_16sc** ppState, const Zor32fc* pTaps, int tapsLen, const Zor16sc* pDlyLine,
          Zor8u* pBuffer))
@@ -114,6 +107,30 @@ ZORSAPI(ZorStatus, zorsFIRInit_32s,
         (ZorsFIRState64f_32s** ppState, const Zor64f* pTaps, int tapsLen, const Zor32s* pDlyLine, Zor8u* pBuffer))
 /** @} */
 
+/** @name Initialisation in the caller's memory, of integer taps
+ * @{
+ */
+/**
+ * Makes a record in memory of the caller. The record points into itself and must not be moved. zorsFIRInit_32s is
+ * zorsFIRInit64f_32s: its size is of zorsFIRGetStateSize64f_32s, and its record belongs to the functions of
+ * `64f_32s`.
+ * @param ppState receives the record
+ * @param pTaps taps, h[0] first
+ * @param tapsLen number of taps
+ * @param tapsFactor integer taps stand for pTaps * 2^-tapsFactor
+ * @param pDlyLine the last @p tapsLen samples, newest first, or null for zeros
+ * @param pBuffer memory of the size that zorsFIRGetStateSize tells, for as long as the record is used
+ * @return zorStsNullPointer for a null @p ppState, @p pTaps or @p pBuffer, then zorStsBadFirLength for @p tapsLen
+ * below 1, then zorStsBadSize where the size is above 2^31 - 1, else zorStsOk
+ */
+ZORSAPI(ZorStatus, zorsFIRInit32s_16s,
+        (ZorsFIRState32s_16s** ppState, const Zor32s* pTaps, int tapsLen, int tapsFactor,
+         const Zor16s* pDlyLine, Zor8u* pBuffer))
+ZORSAPI(ZorStatus, zorsFIRInit32sc_16sc,
+        (ZorsFIRState32sc_16sc** ppState, const Zor32sc* pTaps, int tapsLen, int tapsFactor,
+         const Zor16sc* pDlyLine, Zor8u* pBuffer))
+/** @} */
+
 /** @name Allocation and initialisation
  * @{
  */
@@ -122,7 +139,6 @@ ZORSAPI(ZorStatus, zorsFIRInit_32s,
  * @param ppState receives the record; unchanged after an error
  * @param pTaps taps, h[0] first
  * @param tapsLen number of taps
- * @param tapsFactor integer taps stand for pTaps * 2^-tapsFactor
  * @param pDlyLine the last @p tapsLen samples, newest first, or null for zeros
  * @return zorStsNullPointer for a null @p ppState or @p pTaps, then zorStsBadFirLength for @p tapsLen below 1, then
  * zorStsBadSize where the size is above 2^31 - 1, then zorStsNoMemory where there is no memory for the record, else
@@ -136,13 +152,8 @@ ZORSAPI(ZorStatus, zorsFIRInitAlloc32f_16s,
         (ZorsFIRState32f_16s** ppState, const Zor32f* pTaps, int tapsLen, const Zor16s* pDlyLine))
 ZORSAPI(ZorStatus, zorsFIRInitAlloc32fc_16sc,
         (ZorsFIRState32fc_16sc** ppState, const Zor32fc* pTaps, int tapsLen, const Zor16sc* pDlyLine))
-ZORSAPI(ZorStatus, zorsFIRInitAlloc32s_16s,
-        (ZorsFIRState32s_16s** ppState, const Zor32s* pTaps, int tapsLen, int tapsFactor, const Zor16s* pDlyLine))
 ZORSAPI(ZorStatus, zorsFIRInitAlloc32s_16s32f,
         (ZorsFIRState32s_16s** ppState, const Zor32f* pTaps, int tapsLen, const Zor16s* pDlyLine))
-ZORSAPI(ZorStatus, zorsFIRInitAlloc32sc_16sc,
-        (ZorsFIRState32sc_16sc** ppState, const Zor32sc* pTaps, int tapsLen, int tapsFactor,
-         const Zor16sc* pDlyLine))
 ZORSAPI(ZorStatus, zorsFIRInitAlloc32sc_16sc32fc,
         (ZorsFIRState32sc_16sc** ppState, const Zor32fc* pTaps, int tapsLen, const Zor16sc* pDlyLine))
 ZORSAPI(ZorStatus, zorsFIRInitAlloc_64f,
@@ -161,6 +172,27 @@ ZORSAPI(ZorStatus, zorsFIRInitAlloc64f_16s,
         (ZorsFIRState64f_16s** ppState, const Zor64f* pTaps, int tapsLen, const Zor16s* pDlyLine))
 ZORSAPI(ZorStatus, zorsFIRInitAlloc64fc_16sc,
         (ZorsFIRState64fc_16sc** ppState, const Zor64fc* pTaps, int tapsLen, const Zor16sc* pDlyLine))
+/** @} */
+
+/** @name Allocation and initialisation, of integer taps
+ * @{
+ */
+/**
+ * Makes a record in memory of the library, to be released by zorsFIRFree.
+ * @param ppState receives the record; unchanged after an error
+ * @param pTaps taps, h[0] first
+ * @param tapsLen number of taps
+ * @param tapsFactor integer taps stand for pTaps * 2^-tapsFactor
+ * @param pDlyLine the last @p tapsLen samples, newest first, or null for zeros
+ * @return zorStsNullPointer for a null @p ppState or @p pTaps, then zorStsBadFirLength for @p tapsLen below 1, then
+ * zorStsBadSize where the size is above 2^31 - 1, then zorStsNoMemory where there is no memory for the record, else
+ * zorStsOk. (Without memory for the transform of a long filter it goes without: it is slower so, and not a mistake.)
+ */
+ZORSAPI(ZorStatus, zorsFIRInitAlloc32s_16s,
+        (ZorsFIRState32s_16s** ppState, const Zor32s* pTaps, int tapsLen, int tapsFactor, const Zor16s* pDlyLine))
+ZORSAPI(ZorStatus, zorsFIRInitAlloc32sc_16sc,
+        (ZorsFIRState32sc_16sc** ppState, const Zor32sc* pTaps, int tapsLen, int tapsFactor,
+         const Zor16sc* pDlyLine))
 /** @} */
 
 /** @name Release
@@ -197,7 +229,6 @@ ZORSAPI(ZorStatus, zorsFIRFree_16s, (ZorsFIRState_16s* pState))
  * Replaces the taps, as many as the record was made with. The delay line stays.
  * @param pTaps taps, h[0] first
  * @param pState single-rate or multi-rate record
- * @param tapsFactor integer taps stand for pTaps * 2^-tapsFactor
  * @return zorStsNullPointer for a null pointer, then zorStsWrongContext for a record of other types or of a stream,
  * else zorStsOk
  */
@@ -205,10 +236,7 @@ ZORSAPI(ZorStatus, zorsFIRSetTaps_32f, (const Zor32f* pTaps, ZorsFIRState_32f* p
 ZORSAPI(ZorStatus, zorsFIRSetTaps_32fc, (const Zor32fc* pTaps, ZorsFIRState_32fc* pState))
 ZORSAPI(ZorStatus, zorsFIRSetTaps32f_16s, (const Zor32f* pTaps, ZorsFIRState32f_16s* pState))
 ZORSAPI(ZorStatus, zorsFIRSetTaps32fc_16sc, (const Zor32fc* pTaps, ZorsFIRState32fc_16sc* pState))
-ZORSAPI(ZorStatus, zorsFIRSetTaps32s_16s, (const Zor32s* pTaps, ZorsFIRState32s_16s* pState, int tapsFactor))
 ZORSAPI(ZorStatus, zorsFIRSetTaps32s_16s32f, (const Zor32f* pTaps, ZorsFIRState32s_16s* pState))
-ZORSAPI(ZorStatus, zorsFIRSetTaps32sc_16sc,
-        (const Zor32sc* pTaps, ZorsFIRState32sc_16sc* pState, int tapsFactor))
 ZORSAPI(ZorStatus, zorsFIRSetTaps32sc_16sc32fc, (const Zor32fc* pTaps, ZorsFIRState32sc_16sc* pState))
 ZORSAPI(ZorStatus, zorsFIRSetTaps_64f, (const Zor64f* pTaps, ZorsFIRState_64f* pState))
 ZORSAPI(ZorStatus, zorsFIRSetTaps_64fc, (const Zor64fc* pTaps, ZorsFIRState_64fc* pState))
@@ -218,6 +246,22 @@ ZORSAPI(ZorStatus, zorsFIRSetTaps64f_32s, (const Zor64f* pTaps, ZorsFIRState64f_
 ZORSAPI(ZorStatus, zorsFIRSetTaps64fc_32sc, (const Zor64fc* pTaps, ZorsFIRState64fc_32sc* pState))
 ZORSAPI(ZorStatus, zorsFIRSetTaps64f_16s, (const Zor64f* pTaps, ZorsFIRState64f_16s* pState))
 ZORSAPI(ZorStatus, zorsFIRSetTaps64fc_16sc, (const Zor64fc* pTaps, ZorsFIRState64fc_16sc* pState))
+/** @} */
+
+/** @name New taps, of integer taps
+ * @{
+ */
+/**
+ * Replaces the taps, as many as the record was made with. The delay line stays.
+ * @param pTaps taps, h[0] first
+ * @param pState single-rate or multi-rate record
+ * @param tapsFactor integer taps stand for pTaps * 2^-tapsFactor
+ * @return zorStsNullPointer for a null pointer, then zorStsWrongContext for a record of other types or of a stream,
+ * else zorStsOk
+ */
+ZORSAPI(ZorStatus, zorsFIRSetTaps32s_16s, (const Zor32s* pTaps, ZorsFIRState32s_16s* pState, int tapsFactor))
+ZORSAPI(ZorStatus, zorsFIRSetTaps32sc_16sc,
+        (const Zor32sc* pTaps, ZorsFIRState32sc_16sc* pState, int tapsFactor))
 ZORSAPI(ZorStatus, zorsFIRSetTaps_16s, (const Zor16s* pTaps, ZorsFIRState_16s* pState, int tapsFactor))
 /** @} */
 
@@ -230,7 +274,6 @@ ZORSAPI(ZorStatus, zorsFIRSetTaps_16s, (const Zor16s* pTaps, ZorsFIRState_16s* p
  * floats come back as they were.
  * @param pState single-rate or multi-rate record
  * @param pTaps receives the taps
- * @param tapsFactor integer taps stand for pTaps * 2^-tapsFactor
  * @return zorStsNullPointer for a null pointer, then zorStsWrongContext for a record of other types or of a stream,
  * else zorStsOk
  */
@@ -238,10 +281,7 @@ ZORSAPI(ZorStatus, zorsFIRGetTaps_32f, (const ZorsFIRState_32f* pState, Zor32f* 
 ZORSAPI(ZorStatus, zorsFIRGetTaps_32fc, (const ZorsFIRState_32fc* pState, Zor32fc* pTaps))
 ZORSAPI(ZorStatus, zorsFIRGetTaps32f_16s, (const ZorsFIRState32f_16s* pState, Zor32f* pTaps))
 ZORSAPI(ZorStatus, zorsFIRGetTaps32fc_16sc, (const ZorsFIRState32fc_16sc* pState, Zor32fc* pTaps))
-ZORSAPI(ZorStatus, zorsFIRGetTaps32s_16s, (const ZorsFIRState32s_16s* pState, Zor32s* pTaps, int tapsFactor))
 ZORSAPI(ZorStatus, zorsFIRGetTaps32s_16s32f, (const ZorsFIRState32s_16s* pState, Zor32f* pTaps))
-ZORSAPI(ZorStatus, zorsFIRGetTaps32sc_16sc,
-        (const ZorsFIRState32sc_16sc* pState, Zor32sc* pTaps, int tapsFactor))
 ZORSAPI(ZorStatus, zorsFIRGetTaps32sc_16sc32fc, (const ZorsFIRState32sc_16sc* pState, Zor32fc* pTaps))
 ZORSAPI(ZorStatus, zorsFIRGetTaps_64f, (const ZorsFIRState_64f* pState, Zor64f* pTaps))
 ZORSAPI(ZorStatus, zorsFIRGetTaps_64fc, (const ZorsFIRState_64fc* pState, Zor64fc* pTaps))
@@ -251,6 +291,24 @@ ZORSAPI(ZorStatus, zorsFIRGetTaps64f_32s, (const ZorsFIRState64f_32s* pState, Zo
 ZORSAPI(ZorStatus, zorsFIRGetTaps64fc_32sc, (const ZorsFIRState64fc_32sc* pState, Zor64fc* pTaps))
 ZORSAPI(ZorStatus, zorsFIRGetTaps64f_16s, (const ZorsFIRState64f_16s* pState, Zor64f* pTaps))
 ZORSAPI(ZorStatus, zorsFIRGetTaps64fc_16sc, (const ZorsFIRState64fc_16sc* pState, Zor64fc* pTaps))
+/** @} */
+
+/** @name Taps of a record, of integer taps
+ * @{
+ */
+/**
+ * The taps of a record, h[0] first. Integer ones are its taps times 2^tapsFactor, rounded to nearest, ties to even,
+ * and saturated: with the factor that they were set with, the very numbers that were set. Taps that were set as
+ * floats come back as they were.
+ * @param pState single-rate or multi-rate record
+ * @param pTaps receives the taps
+ * @param tapsFactor integer taps stand for pTaps * 2^-tapsFactor
+ * @return zorStsNullPointer for a null pointer, then zorStsWrongContext for a record of other types or of a stream,
+ * else zorStsOk
+ */
+ZORSAPI(ZorStatus, zorsFIRGetTaps32s_16s, (const ZorsFIRState32s_16s* pState, Zor32s* pTaps, int tapsFactor))
+ZORSAPI(ZorStatus, zorsFIRGetTaps32sc_16sc,
+        (const ZorsFIRState32sc_16sc* pState, Zor32sc* pTaps, int tapsFactor))
 ZORSAPI(ZorStatus, zorsFIRGetTaps_16s, (const ZorsFIRState_16s* pState, Zor16s* pTaps, int tapsFactor))
 /** @} */
 

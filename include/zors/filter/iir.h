@@ -35,12 +35,31 @@
  * @param pDst receives the filtered samples
  * @param len number of samples
  * @param pState record
- * @param scaleFactor integer results are multiplied by 2^-scaleFactor; any value
  * @return zorStsNullPointer for a null pointer, then zorStsBadSize for @p len below 1, then zorStsWrongContext for a
  * record of other types, else zorStsOk
  */
 ZORSAPI(ZorStatus, zorsIIR_32f, (const Zor32f* pSrc, Zor32f* pDst, int len, ZorsIIRState_32f* pState))
 ZORSAPI(ZorStatus, zorsIIR_32fc, (const Zor32fc* pSrc, Zor32fc* pDst, int len, ZorsIIRState_32fc* pState))
+ZORSAPI(ZorStatus, zorsIIR_64f, (const Zor64f* pSrc, Zor64f* pDst, int len, ZorsIIRState_64f* pState))
+ZORSAPI(ZorStatus, zorsIIR_64fc, (const Zor64fc* pSrc, Zor64fc* pDst, int len, ZorsIIRState_64fc* pState))
+ZORSAPI(ZorStatus, zorsIIR64f_32f, (const Zor32f* pSrc, Zor32f* pDst, int len, ZorsIIRState64f_32f* pState))
+ZORSAPI(ZorStatus, zorsIIR64fc_32fc,
+        (const Zor32fc* pSrc, Zor32fc* pDst, int len, ZorsIIRState64fc_32fc* pState))
+/** @} */
+
+/** @name Blocks, with a scale factor
+ * @{
+ */
+/**
+ * Filters a block: the next @p len samples of the stream. @p pSrc and @p pDst are the same vector or do not overlap.
+ * @param pSrc samples
+ * @param pDst receives the filtered samples
+ * @param len number of samples
+ * @param pState record
+ * @param scaleFactor integer results are multiplied by 2^-scaleFactor; any value
+ * @return zorStsNullPointer for a null pointer, then zorStsBadSize for @p len below 1, then zorStsWrongContext for a
+ * record of other types, else zorStsOk
+ */
 ZORSAPI(ZorStatus, zorsIIR32f_16s_Sfs,
         (const Zor16s* pSrc, Zor16s* pDst, int len, ZorsIIRState32f_16s* pState, int scaleFactor))
 ZORSAPI(ZorStatus, zorsIIR32fc_16sc_Sfs,
@@ -49,11 +68,6 @@ ZORSAPI(ZorStatus, zorsIIR32s_16s_Sfs,
         (const Zor16s* pSrc, Zor16s* pDst, int len, ZorsIIRState32s_16s* pState, int scaleFactor))
 ZORSAPI(ZorStatus, zorsIIR32sc_16sc_Sfs,
         (const Zor16sc* pSrc, Zor16sc* pDst, int len, ZorsIIRState32sc_16sc* pState, int scaleFactor))
-ZORSAPI(ZorStatus, zorsIIR_64f, (const Zor64f* pSrc, Zor64f* pDst, int len, ZorsIIRState_64f* pState))
-ZORSAPI(ZorStatus, zorsIIR_64fc, (const Zor64fc* pSrc, Zor64fc* pDst, int len, ZorsIIRState_64fc* pState))
-ZORSAPI(ZorStatus, zorsIIR64f_32f, (const Zor32f* pSrc, Zor32f* pDst, int len, ZorsIIRState64f_32f* pState))
-ZORSAPI(ZorStatus, zorsIIR64fc_32fc,
-        (const Zor32fc* pSrc, Zor32fc* pDst, int len, ZorsIIRState64fc_32fc* pState))
 ZORSAPI(ZorStatus, zorsIIR64f_32s_Sfs,
         (const Zor32s* pSrc, Zor32s* pDst, int len, ZorsIIRState64f_32s* pState, int scaleFactor))
 ZORSAPI(ZorStatus, zorsIIR64fc_32sc_Sfs,
@@ -72,12 +86,29 @@ ZORSAPI(ZorStatus, zorsIIR64fc_16sc_Sfs,
  * @param pSrcDst samples; receives the filtered samples
  * @param len number of samples
  * @param pState record
- * @param scaleFactor integer results are multiplied by 2^-scaleFactor; any value
  * @return zorStsNullPointer for a null pointer, then zorStsBadSize for @p len below 1, then zorStsWrongContext for a
  * record of other types, else zorStsOk
  */
 ZORSAPI(ZorStatus, zorsIIR_32f_I, (Zor32f* pSrcDst, int len, ZorsIIRState_32f* pState))
 ZORSAPI(ZorStatus, zorsIIR_32fc_I, (Zor32fc* pSrcDst, int len, ZorsIIRState_32fc* pState))
+ZORSAPI(ZorStatus, zorsIIR_64f_I, (Zor64f* pSrcDst, int len, ZorsIIRState_64f* pState))
+ZORSAPI(ZorStatus, zorsIIR_64fc_I, (Zor64fc* pSrcDst, int len, ZorsIIRState_64fc* pState))
+ZORSAPI(ZorStatus, zorsIIR64f_32f_I, (Zor32f* pSrcDst, int len, ZorsIIRState64f_32f* pState))
+ZORSAPI(ZorStatus, zorsIIR64fc_32fc_I, (Zor32fc* pSrcDst, int len, ZorsIIRState64fc_32fc* pState))
+/** @} */
+
+/** @name Blocks in place, with a scale factor
+ * @{
+ */
+/**
+ * Filters a block in place, as above.
+ * @param pSrcDst samples; receives the filtered samples
+ * @param len number of samples
+ * @param pState record
+ * @param scaleFactor integer results are multiplied by 2^-scaleFactor; any value
+ * @return zorStsNullPointer for a null pointer, then zorStsBadSize for @p len below 1, then zorStsWrongContext for a
+ * record of other types, else zorStsOk
+ */
 ZORSAPI(ZorStatus, zorsIIR32f_16s_ISfs,
         (Zor16s* pSrcDst, int len, ZorsIIRState32f_16s* pState, int scaleFactor))
 ZORSAPI(ZorStatus, zorsIIR32fc_16sc_ISfs,
@@ -86,10 +117,6 @@ ZORSAPI(ZorStatus, zorsIIR32s_16s_ISfs,
         (Zor16s* pSrcDst, int len, ZorsIIRState32s_16s* pState, int scaleFactor))
 ZORSAPI(ZorStatus, zorsIIR32sc_16sc_ISfs,
         (Zor16sc* pSrcDst, int len, ZorsIIRState32sc_16sc* pState, int scaleFactor))
-ZORSAPI(ZorStatus, zorsIIR_64f_I, (Zor64f* pSrcDst, int len, ZorsIIRState_64f* pState))
-ZORSAPI(ZorStatus, zorsIIR_64fc_I, (Zor64fc* pSrcDst, int len, ZorsIIRState_64fc* pState))
-ZORSAPI(ZorStatus, zorsIIR64f_32f_I, (Zor32f* pSrcDst, int len, ZorsIIRState64f_32f* pState))
-ZORSAPI(ZorStatus, zorsIIR64fc_32fc_I, (Zor32fc* pSrcDst, int len, ZorsIIRState64fc_32fc* pState))
 ZORSAPI(ZorStatus, zorsIIR64f_32s_ISfs,
         (Zor32s* pSrcDst, int len, ZorsIIRState64f_32s* pState, int scaleFactor))
 ZORSAPI(ZorStatus, zorsIIR64fc_32sc_ISfs,
@@ -108,12 +135,29 @@ ZORSAPI(ZorStatus, zorsIIR64fc_16sc_ISfs,
  * @param src sample
  * @param pDst receives the filtered sample
  * @param pState record that is not in direct form 1
- * @param scaleFactor integer results are multiplied by 2^-scaleFactor; any value
  * @return zorStsNullPointer for a null pointer, then zorStsWrongContext for a record of other types or in direct form
  * 1, else zorStsOk
  */
 ZORSAPI(ZorStatus, zorsIIROne_32f, (Zor32f src, Zor32f* pDst, ZorsIIRState_32f* pState))
 ZORSAPI(ZorStatus, zorsIIROne_32fc, (Zor32fc src, Zor32fc* pDst, ZorsIIRState_32fc* pState))
+ZORSAPI(ZorStatus, zorsIIROne_64f, (Zor64f src, Zor64f* pDst, ZorsIIRState_64f* pState))
+ZORSAPI(ZorStatus, zorsIIROne_64fc, (Zor64fc src, Zor64fc* pDst, ZorsIIRState_64fc* pState))
+ZORSAPI(ZorStatus, zorsIIROne64f_32f, (Zor32f src, Zor32f* pDst, ZorsIIRState64f_32f* pState))
+ZORSAPI(ZorStatus, zorsIIROne64fc_32fc, (Zor32fc src, Zor32fc* pDst, ZorsIIRState64fc_32fc* pState))
+/** @} */
+
+/** @name One sample, with a scale factor
+ * @{
+ */
+/**
+ * Filters one sample: the next of the stream.
+ * @param src sample
+ * @param pDst receives the filtered sample
+ * @param pState record that is not in direct form 1
+ * @param scaleFactor integer results are multiplied by 2^-scaleFactor; any value
+ * @return zorStsNullPointer for a null pointer, then zorStsWrongContext for a record of other types or in direct form
+ * 1, else zorStsOk
+ */
 ZORSAPI(ZorStatus, zorsIIROne32f_16s_Sfs,
         (Zor16s src, Zor16s* pDst, ZorsIIRState32f_16s* pState, int scaleFactor))
 ZORSAPI(ZorStatus, zorsIIROne32fc_16sc_Sfs,
@@ -122,10 +166,6 @@ ZORSAPI(ZorStatus, zorsIIROne32s_16s_Sfs,
         (Zor16s src, Zor16s* pDst, ZorsIIRState32s_16s* pState, int scaleFactor))
 ZORSAPI(ZorStatus, zorsIIROne32sc_16sc_Sfs,
         (Zor16sc src, Zor16sc* pDst, ZorsIIRState32sc_16sc* pState, int scaleFactor))
-ZORSAPI(ZorStatus, zorsIIROne_64f, (Zor64f src, Zor64f* pDst, ZorsIIRState_64f* pState))
-ZORSAPI(ZorStatus, zorsIIROne_64fc, (Zor64fc src, Zor64fc* pDst, ZorsIIRState_64fc* pState))
-ZORSAPI(ZorStatus, zorsIIROne64f_32f, (Zor32f src, Zor32f* pDst, ZorsIIRState64f_32f* pState))
-ZORSAPI(ZorStatus, zorsIIROne64fc_32fc, (Zor32fc src, Zor32fc* pDst, ZorsIIRState64fc_32fc* pState))
 ZORSAPI(ZorStatus, zorsIIROne64f_32s_Sfs,
         (Zor32s src, Zor32s* pDst, ZorsIIRState64f_32s* pState, int scaleFactor))
 ZORSAPI(ZorStatus, zorsIIROne64fc_32sc_Sfs,
@@ -147,7 +187,6 @@ ZORSAPI(ZorStatus, zorsIIROne64fc_16sc_Sfs,
  * @param len number of samples of each channel
  * @param nChannels number of channels
  * @param ppState records, one a channel, no two the same
- * @param scaleFactor integer results are multiplied by 2^-scaleFactor; any value
  * @return zorStsNullPointer for a null @p ppSrc, @p ppDst or @p ppState, then zorStsBadSize for @p len below 1, then
  * for @p nChannels below 1 zorStsBadNumChannels (`32s` data: zorStsBadChannelCount), then channel by channel
  * zorStsNullPointer for a null vector or record and zorStsWrongContext for a record of other types, else zorStsOk
@@ -155,6 +194,24 @@ ZORSAPI(ZorStatus, zorsIIROne64fc_16sc_Sfs,
 ZORSAPI(ZorStatus, zorsIIR_32f_P,
         (const Zor32f* const* ppSrc, Zor32f* const* ppDst, int len, int nChannels,
          ZorsIIRState_32f* const* ppState))
+/** @} */
+
+/** @name Channels, with a scale factor
+ * @{
+ */
+/**
+ * Filters a block of each of several channels by a record of its own. Each has the bits that the function of one
+ * channel gives. All is checked before the first sample is filtered.
+ * @param ppSrc samples, a vector a channel
+ * @param ppDst receives the filtered samples, a vector a channel: that of the samples, or one that overlaps no vector
+ * @param len number of samples of each channel
+ * @param nChannels number of channels
+ * @param ppState records, one a channel, no two the same
+ * @param scaleFactor integer results are multiplied by 2^-scaleFactor; any value
+ * @return zorStsNullPointer for a null @p ppSrc, @p ppDst or @p ppState, then zorStsBadSize for @p len below 1, then
+ * for @p nChannels below 1 zorStsBadNumChannels (`32s` data: zorStsBadChannelCount), then channel by channel
+ * zorStsNullPointer for a null vector or record and zorStsWrongContext for a record of other types, else zorStsOk
+ */
 ZORSAPI(ZorStatus, zorsIIR64f_32s_PSfs,
         (const Zor32s* const* ppSrc, Zor32s* const* ppDst, int len, int nChannels,
          ZorsIIRState64f_32s* const* ppState, int scaleFactor))
@@ -169,13 +226,28 @@ ZORSAPI(ZorStatus, zorsIIR64f_32s_PSfs,
  * @param len number of samples of each channel
  * @param nChannels number of channels
  * @param ppState records, one a channel, no two the same
- * @param scaleFactor integer results are multiplied by 2^-scaleFactor; any value
  * @return zorStsNullPointer for a null @p ppSrcDst or @p ppState, then zorStsBadSize for @p len below 1, then for @p
  * nChannels below 1 zorStsBadNumChannels (`32s` data: zorStsBadChannelCount), then channel by channel
  * zorStsNullPointer for a null vector or record and zorStsWrongContext for a record of other types, else zorStsOk
  */
 ZORSAPI(ZorStatus, zorsIIR_32f_IP,
         (Zor32f* const* ppSrcDst, int len, int nChannels, ZorsIIRState_32f* const* ppState))
+/** @} */
+
+/** @name Channels in place, with a scale factor
+ * @{
+ */
+/**
+ * Filters a block of each of several channels in place, as above.
+ * @param ppSrcDst samples, a vector a channel; receive the filtered samples
+ * @param len number of samples of each channel
+ * @param nChannels number of channels
+ * @param ppState records, one a channel, no two the same
+ * @param scaleFactor integer results are multiplied by 2^-scaleFactor; any value
+ * @return zorStsNullPointer for a null @p ppSrcDst or @p ppState, then zorStsBadSize for @p len below 1, then for @p
+ * nChannels below 1 zorStsBadNumChannels (`32s` data: zorStsBadChannelCount), then channel by channel
+ * zorStsNullPointer for a null vector or record and zorStsWrongContext for a record of other types, else zorStsOk
+ */
 ZORSAPI(ZorStatus, zorsIIR64f_32s_IPSfs,
         (Zor32s* const* ppSrcDst, int len, int nChannels, ZorsIIRState64f_32s* const* ppState,
          int scaleFactor))

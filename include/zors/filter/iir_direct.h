@@ -15,7 +15,7 @@
  */
 #include <zortypes.h>
 
-/** @name Blocks
+/** @name Blocks, of any order
  * @{
  */
 /**
@@ -25,18 +25,33 @@
  * @param numIters number of samples
  * @param pTaps taps
  * @param order order N of the filter
- * @param numBq number of sections
  * @param pDlyLine delay line of N elements, of a cascade 2 numBq
  * @return zorStsNullPointer for a null pointer, then zorStsBadSize for @p numIters below 1, then zorStsBadIirOrder
  * for @p order or @p numBq below 1, then zorStsBadTapsScale for a negative f, of any section, else zorStsOk
  */
 ZORSAPI(ZorStatus, zorsIIR_Direct_16s,
         (const Zor16s* pSrc, Zor16s* pDst, int numIters, const Zor16s* pTaps, int order, Zor32s* pDlyLine))
+/** @} */
+
+/** @name Blocks, of sections
+ * @{
+ */
+/**
+ * Filters a block. @p pSrc and @p pDst are the same vector or do not overlap.
+ * @param pSrc samples
+ * @param pDst receives the filtered samples
+ * @param numIters number of samples
+ * @param pTaps taps
+ * @param numBq number of sections
+ * @param pDlyLine delay line of N elements, of a cascade 2 numBq
+ * @return zorStsNullPointer for a null pointer, then zorStsBadSize for @p numIters below 1, then zorStsBadIirOrder
+ * for @p order or @p numBq below 1, then zorStsBadTapsScale for a negative f, of any section, else zorStsOk
+ */
 ZORSAPI(ZorStatus, zorsIIR_BiQuadDirect_16s,
         (const Zor16s* pSrc, Zor16s* pDst, int numIters, const Zor16s* pTaps, int numBq, Zor32s* pDlyLine))
 /** @} */
 
-/** @name Blocks in place
+/** @name Blocks in place, of any order
  * @{
  */
 /**
@@ -45,18 +60,32 @@ ZORSAPI(ZorStatus, zorsIIR_BiQuadDirect_16s,
  * @param numIters number of samples
  * @param pTaps taps
  * @param order order N of the filter
- * @param numBq number of sections
  * @param pDlyLine delay line of N elements, of a cascade 2 numBq
  * @return zorStsNullPointer for a null pointer, then zorStsBadSize for @p numIters below 1, then zorStsBadIirOrder
  * for @p order or @p numBq below 1, then zorStsBadTapsScale for a negative f, of any section, else zorStsOk
  */
 ZORSAPI(ZorStatus, zorsIIR_Direct_16s_I,
         (Zor16s* pSrcDst, int numIters, const Zor16s* pTaps, int order, Zor32s* pDlyLine))
+/** @} */
+
+/** @name Blocks in place, of sections
+ * @{
+ */
+/**
+ * Filters a block in place, as above.
+ * @param pSrcDst samples; receives the filtered samples
+ * @param numIters number of samples
+ * @param pTaps taps
+ * @param numBq number of sections
+ * @param pDlyLine delay line of N elements, of a cascade 2 numBq
+ * @return zorStsNullPointer for a null pointer, then zorStsBadSize for @p numIters below 1, then zorStsBadIirOrder
+ * for @p order or @p numBq below 1, then zorStsBadTapsScale for a negative f, of any section, else zorStsOk
+ */
 ZORSAPI(ZorStatus, zorsIIR_BiQuadDirect_16s_I,
         (Zor16s* pSrcDst, int numIters, const Zor16s* pTaps, int numBq, Zor32s* pDlyLine))
 /** @} */
 
-/** @name One sample
+/** @name One sample, of any order
  * @{
  */
 /**
@@ -65,18 +94,32 @@ ZORSAPI(ZorStatus, zorsIIR_BiQuadDirect_16s_I,
  * @param pDst receives the filtered sample
  * @param pTaps taps
  * @param order order N of the filter
- * @param numBq number of sections
  * @param pDlyLine delay line of N elements, of a cascade 2 numBq
  * @return zorStsNullPointer for a null pointer, then zorStsBadIirOrder for @p order or @p numBq below 1, then
  * zorStsBadTapsScale for a negative f, of any section, else zorStsOk
  */
 ZORSAPI(ZorStatus, zorsIIROne_Direct_16s,
         (Zor16s src, Zor16s* pDst, const Zor16s* pTaps, int order, Zor32s* pDlyLine))
+/** @} */
+
+/** @name One sample, of sections
+ * @{
+ */
+/**
+ * Filters one sample: the next of the stream.
+ * @param src sample
+ * @param pDst receives the filtered sample
+ * @param pTaps taps
+ * @param numBq number of sections
+ * @param pDlyLine delay line of N elements, of a cascade 2 numBq
+ * @return zorStsNullPointer for a null pointer, then zorStsBadIirOrder for @p order or @p numBq below 1, then
+ * zorStsBadTapsScale for a negative f, of any section, else zorStsOk
+ */
 ZORSAPI(ZorStatus, zorsIIROne_BiQuadDirect_16s,
         (Zor16s src, Zor16s* pDst, const Zor16s* pTaps, int numBq, Zor32s* pDlyLine))
 /** @} */
 
-/** @name One sample in place
+/** @name One sample in place, of any order
  * @{
  */
 /**
@@ -84,12 +127,25 @@ ZORSAPI(ZorStatus, zorsIIROne_BiQuadDirect_16s,
  * @param pSrcDst sample; receives the filtered sample
  * @param pTaps taps
  * @param order order N of the filter
- * @param numBq number of sections
  * @param pDlyLine delay line of N elements, of a cascade 2 numBq
  * @return zorStsNullPointer for a null pointer, then zorStsBadIirOrder for @p order or @p numBq below 1, then
  * zorStsBadTapsScale for a negative f, of any section, else zorStsOk
  */
 ZORSAPI(ZorStatus, zorsIIROne_Direct_16s_I, (Zor16s* pSrcDst, const Zor16s* pTaps, int order, Zor32s* pDlyLine))
+/** @} */
+
+/** @name One sample in place, of sections
+ * @{
+ */
+/**
+ * Filters one sample in place, as above.
+ * @param pSrcDst sample; receives the filtered sample
+ * @param pTaps taps
+ * @param numBq number of sections
+ * @param pDlyLine delay line of N elements, of a cascade 2 numBq
+ * @return zorStsNullPointer for a null pointer, then zorStsBadIirOrder for @p order or @p numBq below 1, then
+ * zorStsBadTapsScale for a negative f, of any section, else zorStsOk
+ */
 ZORSAPI(ZorStatus, zorsIIROne_BiQuadDirect_16s_I,
         (Zor16s* pSrcDst, const Zor16s* pTaps, int numBq, Zor32s* pDlyLine))
 /** @} */

@@ -34,14 +34,13 @@
  */
 #include <zortypes.h>
 
-/** @name Size of a record
+/** @name Size of a record, of any order
  * @{
  */
 /**
  * The size in bytes of the memory that a record needs. It has room for aligning the record, so memory at any address
  * will do.
  * @param order order N of the filter; filters with integer taps may have order 0
- * @param numBq number of sections
  * @param pStateSize receives the size
  * @return zorStsNullPointer for a null @p pStateSize, then zorStsBadIirOrder for @p order or @p numBq below 1 (@p
  * order of integer taps below 0), then zorStsBadSize for a size above 2^31 - 1, else zorStsOk
@@ -60,6 +59,19 @@ ZORSAPI(ZorStatus, zorsIIRGetStateSize64f_32s, (int order, int* pStateSize))
 ZORSAPI(ZorStatus, zorsIIRGetStateSize64fc_32sc, (int order, int* pStateSize))
 ZORSAPI(ZorStatus, zorsIIRGetStateSize64f_16s, (int order, int* pStateSize))
 ZORSAPI(ZorStatus, zorsIIRGetStateSize64fc_16sc, (int order, int* pStateSize))
+/** @} */
+
+/** @name Size of a record, of sections
+ * @{
+ */
+/**
+ * The size in bytes of the memory that a record needs. It has room for aligning the record, so memory at any address
+ * will do.
+ * @param numBq number of sections
+ * @param pStateSize receives the size
+ * @return zorStsNullPointer for a null @p pStateSize, then zorStsBadIirOrder for @p order or @p numBq below 1 (@p
+ * order of integer taps below 0), then zorStsBadSize for a size above 2^31 - 1, else zorStsOk
+ */
 ZORSAPI(ZorStatus, zorsIIRGetStateSize_BiQuad_32f, (int numBq, int* pStateSize))
 ZORSAPI(ZorStatus, zorsIIRGetStateSize_BiQuad_32fc, (int numBq, int* pStateSize))
 ZORSAPI(ZorStatus, zorsIIRGetStateSize32f_BiQuad_16s, (int numBq, int* pStateSize))
@@ -78,7 +90,7 @@ ZORSAPI(ZorStatus, zorsIIRGetStateSize64fc_BiQuad_16sc, (int numBq, int* pStateS
 ZORSAPI(ZorStatus, zorsIIRGetStateSize_BiQuad_DF1_32f, (int numBq, int* pStateSize))
 /** @} */
 
-/** @name Initialisation in the caller's memory
+/** @name Initialisation in the caller's memory, of any order
  * @{
  */
 /**
@@ -86,8 +98,6 @@ ZORSAPI(ZorStatus, zorsIIRGetStateSize_BiQuad_DF1_32f, (int numBq, int* pStateSi
  * @param ppState receives the record; unchanged after an error
  * @param pTaps taps
  * @param order order N of the filter; filters with integer taps may have order 0
- * @param numBq number of sections
- * @param tapsFactor integer taps stand for pTaps * 2^-tapsFactor
  * @param pDlyLine delay line to begin with, or null for zeros
  * @param pBuffer memory of the size that zorsIIRGetStateSize tells, for as long as the record is used; unchanged
  * after an error
@@ -107,12 +117,6 @@ ZORSAPI(ZorStatus, zorsIIRInit32f_16s,
 ZORSAPI(ZorStatus, zorsIIRInit32fc_16sc,
         (ZorsIIRState32fc_16sc** ppState, const Zor32fc* pTaps, int order, const Zor32fc* pDlyLine,
          Zor8u* pBuffer))
-ZORSAPI(ZorStatus, zorsIIRInit32s_16s,
-        (ZorsIIRState32s_16s** ppState, const Zor32s* pTaps, int order, int tapsFactor,
-         const Zor32f* pDlyLine, Zor8u* pBuffer))
-ZORSAPI(ZorStatus, zorsIIRInit32s_16s32f,
-        (ZorsIIRState32s_16s** ppState, const Zor32s* pTaps, int order, int tapsFactor,
-         const Zor32f* pDlyLine, Zor8u* pBuffer))
 ZORSAPI(ZorStatus, zorsIIRInit_64f,
         (ZorsIIRState_64f** ppState, const Zor64f* pTaps, int order, const Zor64f* pDlyLine, Zor8u* pBuffer))
 ZORSAPI(ZorStatus, zorsIIRInit_64fc,
@@ -136,6 +140,49 @@ ZORSAPI(ZorStatus, zorsIIRInit64f_16s,
 ZORSAPI(ZorStatus, zorsIIRInit64fc_16sc,
         (ZorsIIRState64fc_16sc** ppState, const Zor64fc* pTaps, int order, const Zor64fc* pDlyLine,
          Zor8u* pBuffer))
+/** @} */
+
+/** @name Initialisation in the caller's memory, of any order, of integer taps
+ * @{
+ */
+/**
+ * Makes a record in memory of the caller. The record points into itself and must not be moved.
+ * @param ppState receives the record; unchanged after an error
+ * @param pTaps taps
+ * @param order order N of the filter; filters with integer taps may have order 0
+ * @param tapsFactor integer taps stand for pTaps * 2^-tapsFactor
+ * @param pDlyLine delay line to begin with, or null for zeros
+ * @param pBuffer memory of the size that zorsIIRGetStateSize tells, for as long as the record is used; unchanged
+ * after an error
+ * @return zorStsNullPointer for a null @p ppState, @p pTaps or @p pBuffer, then zorStsBadIirOrder for @p order or @p
+ * numBq below 1 (@p order of integer taps below 0), then zorStsBadSize where the size is above 2^31 - 1, then
+ * zorStsNoMemory where integer taps find no memory to be converted in, then zorStsDivByZeroError where a0, or b0 of a
+ * section, is zero (of integer taps when converted), else zorStsOk
+ */
+ZORSAPI(ZorStatus, zorsIIRInit32s_16s,
+        (ZorsIIRState32s_16s** ppState, const Zor32s* pTaps, int order, int tapsFactor,
+         const Zor32f* pDlyLine, Zor8u* pBuffer))
+ZORSAPI(ZorStatus, zorsIIRInit32s_16s32f,
+        (ZorsIIRState32s_16s** ppState, const Zor32s* pTaps, int order, int tapsFactor,
+         const Zor32f* pDlyLine, Zor8u* pBuffer))
+/** @} */
+
+/** @name Initialisation in the caller's memory, of sections
+ * @{
+ */
+/**
+ * Makes a record in memory of the caller. The record points into itself and must not be moved.
+ * @param ppState receives the record; unchanged after an error
+ * @param pTaps taps
+ * @param numBq number of sections
+ * @param pDlyLine delay line to begin with, or null for zeros
+ * @param pBuffer memory of the size that zorsIIRGetStateSize tells, for as long as the record is used; unchanged
+ * after an error
+ * @return zorStsNullPointer for a null @p ppState, @p pTaps or @p pBuffer, then zorStsBadIirOrder for @p order or @p
+ * numBq below 1 (@p order of integer taps below 0), then zorStsBadSize where the size is above 2^31 - 1, then
+ * zorStsNoMemory where integer taps find no memory to be converted in, then zorStsDivByZeroError where a0, or b0 of a
+ * section, is zero (of integer taps when converted), else zorStsOk
+ */
 ZORSAPI(ZorStatus, zorsIIRInit_BiQuad_32f,
         (ZorsIIRState_32f** ppState, const Zor32f* pTaps, int numBq, const Zor32f* pDlyLine, Zor8u* pBuffer))
 ZORSAPI(ZorStatus, zorsIIRInit_BiQuad_32fc,
@@ -147,18 +194,6 @@ ZORSAPI(ZorStatus, zorsIIRInit32f_BiQuad_16s,
 ZORSAPI(ZorStatus, zorsIIRInit32fc_BiQuad_16sc,
         (ZorsIIRState32fc_16sc** ppState, const Zor32fc* pTaps, int numBq, const Zor32fc* pDlyLine,
          Zor8u* pBuffer))
-ZORSAPI(ZorStatus, zorsIIRInit32s_BiQuad_16s,
-        (ZorsIIRState32s_16s** ppState, const Zor32s* pTaps, int numBq, int tapsFactor,
-         const Zor32f* pDlyLine, Zor8u* pBuffer))
-ZORSAPI(ZorStatus, zorsIIRInit32s_BiQuad_16s32f,
-        (ZorsIIRState32s_16s** ppState, const Zor32s* pTaps, int numBq, int tapsFactor,
-         const Zor32f* pDlyLine, Zor8u* pBuffer))
-ZORSAPI(ZorStatus, zorsIIRInit32sc_BiQuad_16sc,
-        (ZorsIIRState32sc_16sc** ppState, const Zor32sc* pTaps, int numBq, int tapsFactor,
-         const Zor32fc* pDlyLine, Zor8u* pBuffer))
-ZORSAPI(ZorStatus, zorsIIRInit32sc_BiQuad_16sc32fc,
-        (ZorsIIRState32sc_16sc** ppState, const Zor32sc* pTaps, int numBq, int tapsFactor,
-         const Zor32fc* pDlyLine, Zor8u* pBuffer))
 ZORSAPI(ZorStatus, zorsIIRInit_BiQuad_64f,
         (ZorsIIRState_64f** ppState, const Zor64f* pTaps, int numBq, const Zor64f* pDlyLine, Zor8u* pBuffer))
 ZORSAPI(ZorStatus, zorsIIRInit_BiQuad_64fc,
@@ -183,7 +218,38 @@ ZORSAPI(ZorStatus, zorsIIRInit_BiQuad_DF1_32f,
         (ZorsIIRState_32f** ppState, const Zor32f* pTaps, int numBq, const Zor32f* pDlyLine, Zor8u* pBuffer))
 /** @} */
 
-/** @name Allocation and initialisation
+/** @name Initialisation in the caller's memory, of sections, of integer taps
+ * @{
+ */
+/**
+ * Makes a record in memory of the caller. The record points into itself and must not be moved.
+ * @param ppState receives the record; unchanged after an error
+ * @param pTaps taps
+ * @param numBq number of sections
+ * @param tapsFactor integer taps stand for pTaps * 2^-tapsFactor
+ * @param pDlyLine delay line to begin with, or null for zeros
+ * @param pBuffer memory of the size that zorsIIRGetStateSize tells, for as long as the record is used; unchanged
+ * after an error
+ * @return zorStsNullPointer for a null @p ppState, @p pTaps or @p pBuffer, then zorStsBadIirOrder for @p order or @p
+ * numBq below 1 (@p order of integer taps below 0), then zorStsBadSize where the size is above 2^31 - 1, then
+ * zorStsNoMemory where integer taps find no memory to be converted in, then zorStsDivByZeroError where a0, or b0 of a
+ * section, is zero (of integer taps when converted), else zorStsOk
+ */
+ZORSAPI(ZorStatus, zorsIIRInit32s_BiQuad_16s,
+        (ZorsIIRState32s_16s** ppState, const Zor32s* pTaps, int numBq, int tapsFactor,
+         const Zor32f* pDlyLine, Zor8u* pBuffer))
+ZORSAPI(ZorStatus, zorsIIRInit32s_BiQuad_16s32f,
+        (ZorsIIRState32s_16s** ppState, const Zor32s* pTaps, int numBq, int tapsFactor,
+         const Zor32f* pDlyLine, Zor8u* pBuffer))
+ZORSAPI(ZorStatus, zorsIIRInit32sc_BiQuad_16sc,
+        (ZorsIIRState32sc_16sc** ppState, const Zor32sc* pTaps, int numBq, int tapsFactor,
+         const Zor32fc* pDlyLine, Zor8u* pBuffer))
+ZORSAPI(ZorStatus, zorsIIRInit32sc_BiQuad_16sc32fc,
+        (ZorsIIRState32sc_16sc** ppState, const Zor32sc* pTaps, int numBq, int tapsFactor,
+         const Zor32fc* pDlyLine, Zor8u* pBuffer))
+/** @} */
+
+/** @name Allocation and initialisation, of any order
  * @{
  */
 /**
@@ -191,8 +257,6 @@ ZORSAPI(ZorStatus, zorsIIRInit_BiQuad_DF1_32f,
  * @param ppState receives the record; unchanged after an error
  * @param pTaps taps
  * @param order order N of the filter; filters with integer taps may have order 0
- * @param numBq number of sections
- * @param tapsFactor integer taps stand for pTaps * 2^-tapsFactor
  * @param pDlyLine delay line to begin with, or null for zeros
  * @return zorStsNullPointer for a null @p ppState or @p pTaps, then zorStsBadIirOrder for @p order or @p numBq below
  * 1 (@p order of integer taps below 0), then zorStsBadSize where the size is above 2^31 - 1, then zorStsNoMemory
@@ -207,12 +271,6 @@ ZORSAPI(ZorStatus, zorsIIRInitAlloc32f_16s,
         (ZorsIIRState32f_16s** ppState, const Zor32f* pTaps, int order, const Zor32f* pDlyLine))
 ZORSAPI(ZorStatus, zorsIIRInitAlloc32fc_16sc,
         (ZorsIIRState32fc_16sc** ppState, const Zor32fc* pTaps, int order, const Zor32fc* pDlyLine))
-ZORSAPI(ZorStatus, zorsIIRInitAlloc32s_16s,
-        (ZorsIIRState32s_16s** ppState, const Zor32s* pTaps, int order, int tapsFactor,
-         const Zor32f* pDlyLine))
-ZORSAPI(ZorStatus, zorsIIRInitAlloc32s_16s32f,
-        (ZorsIIRState32s_16s** ppState, const Zor32s* pTaps, int order, int tapsFactor,
-         const Zor32f* pDlyLine))
 ZORSAPI(ZorStatus, zorsIIRInitAlloc_64f,
         (ZorsIIRState_64f** ppState, const Zor64f* pTaps, int order, const Zor64f* pDlyLine))
 ZORSAPI(ZorStatus, zorsIIRInitAlloc_64fc,
@@ -229,6 +287,45 @@ ZORSAPI(ZorStatus, zorsIIRInitAlloc64f_16s,
         (ZorsIIRState64f_16s** ppState, const Zor64f* pTaps, int order, const Zor64f* pDlyLine))
 ZORSAPI(ZorStatus, zorsIIRInitAlloc64fc_16sc,
         (ZorsIIRState64fc_16sc** ppState, const Zor64fc* pTaps, int order, const Zor64fc* pDlyLine))
+/** @} */
+
+/** @name Allocation and initialisation, of any order, of integer taps
+ * @{
+ */
+/**
+ * Makes a record in memory of the library, to be released by zorsIIRFree.
+ * @param ppState receives the record; unchanged after an error
+ * @param pTaps taps
+ * @param order order N of the filter; filters with integer taps may have order 0
+ * @param tapsFactor integer taps stand for pTaps * 2^-tapsFactor
+ * @param pDlyLine delay line to begin with, or null for zeros
+ * @return zorStsNullPointer for a null @p ppState or @p pTaps, then zorStsBadIirOrder for @p order or @p numBq below
+ * 1 (@p order of integer taps below 0), then zorStsBadSize where the size is above 2^31 - 1, then zorStsNoMemory
+ * where integer taps find no memory to be converted in, then zorStsDivByZeroError where a0, or b0 of a section, is
+ * zero (of integer taps when converted), then zorStsNoMemory where there is no memory for the record, else zorStsOk
+ */
+ZORSAPI(ZorStatus, zorsIIRInitAlloc32s_16s,
+        (ZorsIIRState32s_16s** ppState, const Zor32s* pTaps, int order, int tapsFactor,
+         const Zor32f* pDlyLine))
+ZORSAPI(ZorStatus, zorsIIRInitAlloc32s_16s32f,
+        (ZorsIIRState32s_16s** ppState, const Zor32s* pTaps, int order, int tapsFactor,
+         const Zor32f* pDlyLine))
+/** @} */
+
+/** @name Allocation and initialisation, of sections
+ * @{
+ */
+/**
+ * Makes a record in memory of the library, to be released by zorsIIRFree.
+ * @param ppState receives the record; unchanged after an error
+ * @param pTaps taps
+ * @param numBq number of sections
+ * @param pDlyLine delay line to begin with, or null for zeros
+ * @return zorStsNullPointer for a null @p ppState or @p pTaps, then zorStsBadIirOrder for @p order or @p numBq below
+ * 1 (@p order of integer taps below 0), then zorStsBadSize where the size is above 2^31 - 1, then zorStsNoMemory
+ * where integer taps find no memory to be converted in, then zorStsDivByZeroError where a0, or b0 of a section, is
+ * zero (of integer taps when converted), then zorStsNoMemory where there is no memory for the record, else zorStsOk
+ */
 ZORSAPI(ZorStatus, zorsIIRInitAlloc_BiQuad_32f,
         (ZorsIIRState_32f** ppState, const Zor32f* pTaps, int numBq, const Zor32f* pDlyLine))
 ZORSAPI(ZorStatus, zorsIIRInitAlloc_BiQuad_32fc,
@@ -237,18 +334,6 @@ ZORSAPI(ZorStatus, zorsIIRInitAlloc32f_BiQuad_16s,
         (ZorsIIRState32f_16s** ppState, const Zor32f* pTaps, int numBq, const Zor32f* pDlyLine))
 ZORSAPI(ZorStatus, zorsIIRInitAlloc32fc_BiQuad_16sc,
         (ZorsIIRState32fc_16sc** ppState, const Zor32fc* pTaps, int numBq, const Zor32fc* pDlyLine))
-ZORSAPI(ZorStatus, zorsIIRInitAlloc32s_BiQuad_16s,
-        (ZorsIIRState32s_16s** ppState, const Zor32s* pTaps, int numBq, int tapsFactor,
-         const Zor32f* pDlyLine))
-ZORSAPI(ZorStatus, zorsIIRInitAlloc32s_BiQuad_16s32f,
-        (ZorsIIRState32s_16s** ppState, const Zor32s* pTaps, int numBq, int tapsFactor,
-         const Zor32f* pDlyLine))
-ZORSAPI(ZorStatus, zorsIIRInitAlloc32sc_BiQuad_16sc,
-        (ZorsIIRState32sc_16sc** ppState, const Zor32sc* pTaps, int numBq, int tapsFactor,
-         const Zor32fc* pDlyLine))
-ZORSAPI(ZorStatus, zorsIIRInitAlloc32sc_BiQuad_16sc32fc,
-        (ZorsIIRState32sc_16sc** ppState, const Zor32sc* pTaps, int numBq, int tapsFactor,
-         const Zor32fc* pDlyLine))
 ZORSAPI(ZorStatus, zorsIIRInitAlloc_BiQuad_64f,
         (ZorsIIRState_64f** ppState, const Zor64f* pTaps, int numBq, const Zor64f* pDlyLine))
 ZORSAPI(ZorStatus, zorsIIRInitAlloc_BiQuad_64fc,
@@ -265,6 +350,35 @@ ZORSAPI(ZorStatus, zorsIIRInitAlloc64fc_BiQuad_16sc,
         (ZorsIIRState64fc_16sc** ppState, const Zor64fc* pTaps, int numBq, const Zor64fc* pDlyLine))
 ZORSAPI(ZorStatus, zorsIIRInitAlloc_BiQuad_DF1_32f,
         (ZorsIIRState_32f** ppState, const Zor32f* pTaps, int numBq, const Zor32f* pDlyLine))
+/** @} */
+
+/** @name Allocation and initialisation, of sections, of integer taps
+ * @{
+ */
+/**
+ * Makes a record in memory of the library, to be released by zorsIIRFree.
+ * @param ppState receives the record; unchanged after an error
+ * @param pTaps taps
+ * @param numBq number of sections
+ * @param tapsFactor integer taps stand for pTaps * 2^-tapsFactor
+ * @param pDlyLine delay line to begin with, or null for zeros
+ * @return zorStsNullPointer for a null @p ppState or @p pTaps, then zorStsBadIirOrder for @p order or @p numBq below
+ * 1 (@p order of integer taps below 0), then zorStsBadSize where the size is above 2^31 - 1, then zorStsNoMemory
+ * where integer taps find no memory to be converted in, then zorStsDivByZeroError where a0, or b0 of a section, is
+ * zero (of integer taps when converted), then zorStsNoMemory where there is no memory for the record, else zorStsOk
+ */
+ZORSAPI(ZorStatus, zorsIIRInitAlloc32s_BiQuad_16s,
+        (ZorsIIRState32s_16s** ppState, const Zor32s* pTaps, int numBq, int tapsFactor,
+         const Zor32f* pDlyLine))
+ZORSAPI(ZorStatus, zorsIIRInitAlloc32s_BiQuad_16s32f,
+        (ZorsIIRState32s_16s** ppState, const Zor32s* pTaps, int numBq, int tapsFactor,
+         const Zor32f* pDlyLine))
+ZORSAPI(ZorStatus, zorsIIRInitAlloc32sc_BiQuad_16sc,
+        (ZorsIIRState32sc_16sc** ppState, const Zor32sc* pTaps, int numBq, int tapsFactor,
+         const Zor32fc* pDlyLine))
+ZORSAPI(ZorStatus, zorsIIRInitAlloc32sc_BiQuad_16sc32fc,
+        (ZorsIIRState32sc_16sc** ppState, const Zor32sc* pTaps, int numBq, int tapsFactor,
+         const Zor32fc* pDlyLine))
 /** @} */
 
 /** @name Release
@@ -301,7 +415,6 @@ ZORSAPI(ZorStatus, zorsIIRFree64fc_16sc, (ZorsIIRState64fc_16sc* pState))
  * new taps, and that one and the following ones their old.
  * @param pTaps taps
  * @param pState record
- * @param tapsFactor integer taps stand for pTaps * 2^-tapsFactor
  * @return zorStsNullPointer for a null pointer, then zorStsWrongContext for a record of other types, then
  * zorStsNoMemory where integer taps find no memory to be converted in, then zorStsDivByZeroError where a0, or b0 of a
  * section, is zero, else zorStsOk
@@ -310,12 +423,6 @@ ZORSAPI(ZorStatus, zorsIIRSetTaps_32f, (const Zor32f* pTaps, ZorsIIRState_32f* p
 ZORSAPI(ZorStatus, zorsIIRSetTaps_32fc, (const Zor32fc* pTaps, ZorsIIRState_32fc* pState))
 ZORSAPI(ZorStatus, zorsIIRSetTaps32f_16s, (const Zor32f* pTaps, ZorsIIRState32f_16s* pState))
 ZORSAPI(ZorStatus, zorsIIRSetTaps32fc_16sc, (const Zor32fc* pTaps, ZorsIIRState32fc_16sc* pState))
-ZORSAPI(ZorStatus, zorsIIRSetTaps32s_16s, (const Zor32s* pTaps, ZorsIIRState32s_16s* pState, int tapsFactor))
-ZORSAPI(ZorStatus, zorsIIRSetTaps32s_16s32f, (const Zor32s* pTaps, ZorsIIRState32s_16s* pState, int tapsFactor))
-ZORSAPI(ZorStatus, zorsIIRSetTaps32sc_16sc,
-        (const Zor32sc* pTaps, ZorsIIRState32sc_16sc* pState, int tapsFactor))
-ZORSAPI(ZorStatus, zorsIIRSetTaps32sc_16sc32fc,
-        (const Zor32sc* pTaps, ZorsIIRState32sc_16sc* pState, int tapsFactor))
 ZORSAPI(ZorStatus, zorsIIRSetTaps_64f, (const Zor64f* pTaps, ZorsIIRState_64f* pState))
 ZORSAPI(ZorStatus, zorsIIRSetTaps_64fc, (const Zor64fc* pTaps, ZorsIIRState_64fc* pState))
 ZORSAPI(ZorStatus, zorsIIRSetTaps64f_32f, (const Zor64f* pTaps, ZorsIIRState64f_32f* pState))
@@ -324,6 +431,28 @@ ZORSAPI(ZorStatus, zorsIIRSetTaps64f_32s, (const Zor64f* pTaps, ZorsIIRState64f_
 ZORSAPI(ZorStatus, zorsIIRSetTaps64fc_32sc, (const Zor64fc* pTaps, ZorsIIRState64fc_32sc* pState))
 ZORSAPI(ZorStatus, zorsIIRSetTaps64f_16s, (const Zor64f* pTaps, ZorsIIRState64f_16s* pState))
 ZORSAPI(ZorStatus, zorsIIRSetTaps64fc_16sc, (const Zor64fc* pTaps, ZorsIIRState64fc_16sc* pState))
+/** @} */
+
+/** @name New taps, of integer taps
+ * @{
+ */
+/**
+ * Replaces the taps, as many and in the layout that the record was made with. The delay line stays. Where a0 of a
+ * filter of any order is zero its taps stay too; of a cascade, the sections before the one that is refused have their
+ * new taps, and that one and the following ones their old.
+ * @param pTaps taps
+ * @param pState record
+ * @param tapsFactor integer taps stand for pTaps * 2^-tapsFactor
+ * @return zorStsNullPointer for a null pointer, then zorStsWrongContext for a record of other types, then
+ * zorStsNoMemory where integer taps find no memory to be converted in, then zorStsDivByZeroError where a0, or b0 of a
+ * section, is zero, else zorStsOk
+ */
+ZORSAPI(ZorStatus, zorsIIRSetTaps32s_16s, (const Zor32s* pTaps, ZorsIIRState32s_16s* pState, int tapsFactor))
+ZORSAPI(ZorStatus, zorsIIRSetTaps32s_16s32f, (const Zor32s* pTaps, ZorsIIRState32s_16s* pState, int tapsFactor))
+ZORSAPI(ZorStatus, zorsIIRSetTaps32sc_16sc,
+        (const Zor32sc* pTaps, ZorsIIRState32sc_16sc* pState, int tapsFactor))
+ZORSAPI(ZorStatus, zorsIIRSetTaps32sc_16sc32fc,
+        (const Zor32sc* pTaps, ZorsIIRState32sc_16sc* pState, int tapsFactor))
 /** @} */
 
 /** @name New delay line
