@@ -69,7 +69,7 @@ private:
     std::int64_t end_;
 };
 
-// A filter is transformed from here on: a shorter one is as fast by sums of products.
+// A filter is transformed from so many taps on. Fixed, because the sizes of records depend on it.
 template <class E>
 inline constexpr int firstTransformedLength = sizeof(Lane<E>) == 4 ? 64 : 32;
 
