@@ -1,5 +1,6 @@
-// Reports on an electrocardiogram: statistics and heart rate as text, the recording without its offset as WAV, pictures
-// of it and of its spectrum.
+// Reports on an electrocardiogram: statistics, heart rate and its variability as text, the beats as a table, the
+// recording without its offset as WAV, pictures of it, of its spectrum and of its beats.
+#include "beats_csv.h"
 #include "plot.h"
 #include "report.h"
 #include "statistics.h"
@@ -42,10 +43,26 @@ std::string captionOf(const fs::path& input)
            "1.0";
 }
 
+// A table for each channel; its name tells which, where there are several.
+void writeBeats(const fs::path& stem, const std::vector<std::optional<ecg::Beats>>& beats)
+{
+    for (std::size_t i = 0; i < beats.size(); ++i) {
+        if (!beats[i]) continue;
+        std::string csv = stem.string() + "_beats";
+        if (beats.size() > 1) csv.append("_").append(std::to_string(i + 1));
+        csv += ".csv";
+        ecg::writeBeats(csv, *beats[i]);
+        std::printf("beats:          %s\n", csv.c_str());
+    }
+}
+
 void run(const Arguments& arguments)
 {
     ecg::Recording recording = ecg::readWav(arguments.input);
-    ecg::printReport(arguments.input.filename().string(), recording);
+    std::vector<std::optional<ecg::Beats>> beats;
+    for (const ecg::Channel& channel : recording.channels)
+        beats.push_back(ecg::beatsOf(channel, recording.rate));
+    ecg::printReport(arguments.input.filename().string(), recording, beats);
 
     for (ecg::Channel& channel : recording.channels) ecg::removeOffset(channel);
 
@@ -53,14 +70,17 @@ void run(const Arguments& arguments)
     const fs::path stem = arguments.out / arguments.input.stem();
     const auto file = [&](const char* ending) { return fs::path(stem.string() + ending); };
     const fs::path wav = file("_centred.wav"), trace = file(".png"), spectrum = file("_spectrum.png"),
-                   spectrogram = file("_spectrogram.png");
+                   spectrogram = file("_spectrogram.png"), marked = file("_beats.png");
     const std::string caption = captionOf(arguments.input);
     ecg::writeWav(wav, recording);
     ecg::drawRecording(trace, recording, caption);
     ecg::drawSpectrum(spectrum, recording, caption);
     ecg::drawSpectrogram(spectrogram, recording, caption);
-    std::printf("\nwithout offset: %s\ntrace:          %s\nspectrum:       %s\nspectrogram:    %s\n",
-                wav.c_str(), trace.c_str(), spectrum.c_str(), spectrogram.c_str());
+    ecg::drawBeats(marked, recording, beats, caption);
+    std::printf("\nwithout offset: %s\ntrace:          %s\nspectrum:       %s\nspectrogram:    %s\nbeats:    "
+                "      %s\n",
+                wav.c_str(), trace.c_str(), spectrum.c_str(), spectrogram.c_str(), marked.c_str());
+    writeBeats(stem, beats);
     if (std::fflush(stdout) != 0 || std::ferror(stdout))
         throw ecg::Error("cannot write to the standard output");
 }

@@ -1,4 +1,3 @@
-#include "picture.h"
 #include "plot.h"
 #include "statistics.h"
 
@@ -26,19 +25,12 @@ void sendEnvelope(Picture& picture, const Channel& channel, int rate)
     picture.say("end");
 }
 
-void sendExcerpt(Picture& picture, std::span<const Zor32f> signal, int rate)
-{
-    picture.say("$excerpt << end");
-    for (std::size_t i = 0; i < signal.size(); ++i) picture.point(static_cast<double>(i) / rate, signal[i]);
-    picture.say("end");
-}
-
 void drawChannel(Picture& picture, const Channel& channel, int rate, const std::string& name)
 {
     const int shown = static_cast<int>(std::min<Zor64s>(channel.len(), Zor64s{excerptSeconds} * rate));
     const auto excerpt = channel.part(0, shown);
     sendEnvelope(picture, channel, rate);
-    sendExcerpt(picture, excerpt, rate);
+    picture.series("$excerpt", excerpt, 0, rate);
     const auto panel = [&](const std::string& title, std::span<const Zor32f> signal,
                            const std::string& data) {
         const Range range = rangeOf(signal);

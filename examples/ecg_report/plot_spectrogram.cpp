@@ -1,5 +1,4 @@
 #include "decibels.h"
-#include "picture.h"
 #include "plot.h"
 #include "welch.h"
 

@@ -49,14 +49,43 @@ void printTranscoding(const Channel& channel)
 void printPulse(const Channel& channel, int rate)
 {
     if (const auto hertz = pulseOf(channel, rate).hertz)
-        std::printf("heart rate: %.1f beats per minute (%.3f Hz)\n", 60 * *hertz, *hertz);
+        std::printf("heart rate: %.1f beats per minute (%.3f Hz), by the spectrum\n", 60 * *hertz, *hertz);
     else
-        std::printf("heart rate: none found\n");
+        std::printf("heart rate: none found by the spectrum\n");
+}
+
+void printBeats(const std::optional<Beats>& beats)
+{
+    if (!beats) {
+        std::printf("beats: not to be found below %d samples a second\n", leastRateForQrs);
+        return;
+    }
+    if (beats->places.empty()) {
+        std::printf("beats: none found\n");
+        return;
+    }
+    const auto [rate, sdnn, rmssd] = variabilityOf(*beats);
+    std::string missing;
+    const auto print = [&](const char* what, std::optional<double> value, const char* unit) {
+        if (value)
+            std::printf(", %s %.1f %s", what, *value, unit);
+        else
+            missing.append(missing.empty() ? "; too few for " : ", ").append(what);
+    };
+    const auto milliseconds = [](std::optional<double> seconds) {
+        return seconds ? std::optional(1000 * *seconds) : std::nullopt;
+    };
+    std::printf("beats: %zu", beats->places.size());
+    print("mean heart rate", rate, "per minute");
+    print("SDNN", milliseconds(sdnn), "ms");
+    print("RMSSD", milliseconds(rmssd), "ms");
+    std::printf("%s\n", missing.c_str());
 }
 
 } // namespace
 
-void printReport(const std::string& name, const Recording& recording)
+void printReport(const std::string& name, const Recording& recording,
+                 const std::vector<std::optional<Beats>>& beats)
 {
     std::printf("%s: %.3f s, %d samples at %d Hz\n", name.c_str(), recording.seconds(), recording.len(),
                 recording.rate);
@@ -68,6 +97,7 @@ void printReport(const std::string& name, const Recording& recording)
         printChannel(recording.channels[i], recording.rate);
         printTranscoding(recording.channels[i]);
         printPulse(recording.channels[i], recording.rate);
+        printBeats(beats[i]);
     }
 }
 

@@ -1,4 +1,4 @@
-// The filter of one channel: a record of the library and what it remembers of the stream.
+// The filter of one channel: records of the library and what they remember of the stream.
 #pragma once
 
 #include "common/error.h"
@@ -30,6 +30,31 @@ struct Fir<Zor64f> {
     static constexpr auto free = zorsFIRFree_64f;
 };
 
+// Double precision inside, whatever the samples: feedback adds up what is rounded.
+template <class Sample>
+struct Iir;
+template <>
+struct Iir<Zor32f> {
+    using State = ZorsIIRState64f_32f;
+    static constexpr auto init = zorsIIRInitAlloc64f_32f;
+    static constexpr auto filter = zorsIIR64f_32f_I;
+    static constexpr auto free = zorsIIRFree64f_32f;
+};
+template <>
+struct Iir<Zor64f> {
+    using State = ZorsIIRState_64f;
+    static constexpr auto init = zorsIIRInitAlloc_64f;
+    static constexpr auto filter = zorsIIR_64f_I;
+    static constexpr auto free = zorsIIRFree_64f;
+};
+
+template <class Kind>
+struct Free {
+    void operator()(typename Kind::State* state) const { Kind::free(state); }
+};
+template <class Kind>
+using State = std::unique_ptr<typename Kind::State, Free<Kind>>;
+
 template <class Sample>
 class Channel {
 public:
@@ -40,25 +65,32 @@ public:
         std::vector<Sample> taps(filter.taps.size());
         example::require(Fir<Sample>::convert(filter.taps.data(), taps.data(), len), "convert the taps");
         const auto [up, down] = filter.ratio;
-        State* state = nullptr;
+        typename Fir<Sample>::State* state = nullptr;
         example::require(
             Fir<Sample>::init(&state, taps.data(), len, up, 0, down, filter.delay % down, nullptr),
             "prepare the filter");
-        state_.reset(state);
+        fir_.reset(state);
+
+        for (const Recursive& recursive : filter.recursive) {
+            typename Iir<Sample>::State* made = nullptr;
+            example::require(Iir<Sample>::init(&made, recursive.taps.data(), recursive.order, nullptr),
+                             "prepare the filter");
+            iir_.emplace_back(made);
+        }
     }
 
     // An iteration takes ratio.down samples and gives ratio.up of them.
-    void filter(const Sample* source, Sample* result, int iterations)
+    void filter(const Sample* source, std::vector<Sample>& result, int iterations)
     {
-        example::require(Fir<Sample>::filter(source, result, iterations, state_.get()), "filter");
+        example::require(Fir<Sample>::filter(source, result.data(), iterations, fir_.get()), "filter");
+        for (const auto& state : iir_)
+            example::require(Iir<Sample>::filter(result.data(), static_cast<int>(result.size()), state.get()),
+                             "filter");
     }
 
 private:
-    using State = typename Fir<Sample>::State;
-    struct Free {
-        void operator()(State* state) const { Fir<Sample>::free(state); }
-    };
-    std::unique_ptr<State, Free> state_;
+    State<Fir<Sample>> fir_;
+    std::vector<State<Iir<Sample>>> iir_;
 };
 
 } // namespace wav

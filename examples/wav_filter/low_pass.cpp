@@ -26,7 +26,7 @@ double sinc(double x)
 // 20, 1974). Frequencies are in units of the rate at which the taps stand.
 Filter rateConversion(const Ratio& ratio)
 {
-    if (ratio.up == ratio.down) return {{1}, ratio};
+    if (ratio.up == ratio.down) return {.ratio = ratio};
 
     const double nyquist = 0.5 / std::max(ratio.up, ratio.down);
     const double width = (1 - passEdge) * nyquist, cutoff = nyquist - width / 2;
@@ -34,7 +34,7 @@ Filter rateConversion(const Ratio& ratio)
     const auto half = static_cast<int>(std::ceil((attenuation - 7.95) / (14.36 * width) / 2));
     const int len = 2 * half + 1; // odd, so that the delay is a whole number of taps
 
-    Filter filter{std::vector<Zor64f>(static_cast<std::size_t>(len)), ratio, half};
+    Filter filter{.taps = std::vector<Zor64f>(static_cast<std::size_t>(len)), .ratio = ratio, .delay = half};
     for (int n = -half; auto& tap : filter.taps) tap = sinc(2 * cutoff * n++);
     Zor64f* const taps = filter.taps.data();
     example::require(zorsWinKaiser_64f_I(taps, len, beta / half), "form the window");

@@ -1,11 +1,10 @@
 #include "ratio.h"
 
 #include "common/error.h"
+#include "numbers.h"
 
 #include <algorithm>
-#include <charconv>
 #include <numeric>
-#include <optional>
 #include <string_view>
 
 namespace wav {
@@ -13,14 +12,6 @@ namespace {
 
 // The low-pass filter has some 140 taps for each unit of the larger factor: here it takes 200 MB.
 constexpr int mostFactor = 1 << 16;
-
-std::optional<int> positive(std::string_view text)
-{
-    int value = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (error != std::errc{} || end != text.data() + text.size() || value < 1) return std::nullopt;
-    return value;
-}
 
 Ratio inLowestTerms(int up, int down)
 {
@@ -39,8 +30,8 @@ Ratio parseRatio(const std::string& text)
 {
     const std::size_t slash = text.find('/');
     const std::string_view whole = text;
-    const auto up = positive(whole.substr(0, slash));
-    const auto down = slash == std::string::npos ? 1 : positive(whole.substr(slash + 1));
+    const auto up = positiveInteger(whole.substr(0, slash));
+    const auto down = slash == std::string::npos ? 1 : positiveInteger(whole.substr(slash + 1));
     if (!up || !down)
         throw example::Error("--rate " + text + ": two positive whole numbers are needed, such as 160/147");
     return inLowestTerms(*up, *down);
@@ -48,7 +39,7 @@ Ratio parseRatio(const std::string& text)
 
 Ratio ratioTo(const std::string& hertz, int rate)
 {
-    const auto wanted = positive(hertz);
+    const auto wanted = positiveInteger(hertz);
     if (!wanted) throw example::Error("--to-rate " + hertz + ": a positive whole number of hertz is needed");
     return inLowestTerms(*wanted, rate);
 }

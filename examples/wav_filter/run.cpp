@@ -42,7 +42,7 @@ Zor64s runAs(const Filter& filter, Input& input, Output& output)
 
         for (int c = 0; auto& channel : channels) {
             source.get(c, before);
-            channel.filter(before.data(), after.data(), iterations);
+            channel.filter(before.data(), after, iterations);
             result.set(c++, after);
         }
 

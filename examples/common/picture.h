@@ -3,9 +3,10 @@
 
 #include <cstdio>
 #include <filesystem>
+#include <span>
 #include <string>
 
-namespace ecg {
+namespace example {
 
 // gnuplot's single-quoted text, which cannot run on to another line.
 std::string quoted(const std::string& text);
@@ -28,6 +29,8 @@ public:
     void say(const std::string& line);
     void point(double x, double y);
     void point(double x, double y, double z);
+    // The data block of this name: a signal from the time `begin` on.
+    void series(const std::string& name, std::span<const float> signal, double begin, int rate);
     void range(const std::string& axis, double begin, double end);
     void plot(const std::string& title, const std::string& what); // the next panel
     void finish();                                                // throws where there is no picture then
@@ -37,4 +40,4 @@ private:
     std::FILE* pipe_;
 };
 
-} // namespace ecg
+} // namespace example

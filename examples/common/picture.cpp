@@ -1,12 +1,12 @@
 #include "picture.h"
 
-#include "common/error.h"
+#include "error.h"
 
 #include <csignal>
 #include <sys/wait.h>
 #include <utility>
 
-namespace ecg {
+namespace example {
 
 namespace fs = std::filesystem;
 
@@ -32,7 +32,7 @@ Picture::Picture(const fs::path& png, const Layout& layout, const std::string& c
     std::signal(SIGPIPE, SIG_IGN); // a gnuplot that ends early is found by its exit status
     fs::remove(png);
     pipe_ = popen("command -v gnuplot >/dev/null || exit 127; exec gnuplot -", "w");
-    if (!pipe_) throw example::Error("cannot start gnuplot");
+    if (!pipe_) throw Error("cannot start gnuplot");
     say("set encoding utf8");
     say("set terminal pngcairo noenhanced size 1600," + std::to_string(layout.height) +
         " font 'DejaVu Sans,13'");
@@ -62,6 +62,14 @@ void Picture::point(double x, double y, double z)
     std::fprintf(pipe_, "%.9g %.9g %.9g\n", x, y, z);
 }
 
+void Picture::series(const std::string& name, std::span<const float> signal, double begin, int rate)
+{
+    say(name + " << end");
+    for (std::size_t i = 0; i < signal.size(); ++i)
+        point(begin + static_cast<double>(i) / rate, static_cast<double>(signal[i]));
+    say("end");
+}
+
 void Picture::range(const std::string& axis, double begin, double end)
 {
     say("set " + axis + "range [" + number(begin) + ":" + number(end) + "]");
@@ -77,10 +85,9 @@ void Picture::finish()
 {
     say("unset multiplot\nset output");
     const int status = pclose(std::exchange(pipe_, nullptr));
-    if (WIFEXITED(status) && WEXITSTATUS(status) == 127) throw example::Error("gnuplot is not installed");
-    if (status != 0) throw example::Error("gnuplot failed");
-    if (!fs::exists(png_) || fs::is_empty(png_))
-        throw example::Error(png_.string() + ": cannot write the picture");
+    if (WIFEXITED(status) && WEXITSTATUS(status) == 127) throw Error("gnuplot is not installed");
+    if (status != 0) throw Error("gnuplot failed");
+    if (!fs::exists(png_) || fs::is_empty(png_)) throw Error(png_.string() + ": cannot write the picture");
 }
 
-} // namespace ecg
+} // namespace example
