@@ -3,6 +3,7 @@
 #include "error.h"
 
 #include <csignal>
+#include <fstream>
 #include <sys/wait.h>
 #include <utility>
 
@@ -31,7 +32,8 @@ Picture::Picture(const fs::path& png, const Layout& layout, const std::string& c
 {
     std::signal(SIGPIPE, SIG_IGN); // a gnuplot that ends early is found by its exit status
     fs::remove(png);
-    pipe_ = popen("command -v gnuplot >/dev/null || exit 127; exec gnuplot -", "w");
+    if (!std::ofstream(png)) fail(); // gnuplot would write it to the standard output
+    pipe_ = popen("command -v gnuplot >/dev/null || exit 127; export LC_ALL=C.UTF-8; exec gnuplot -", "w");
     if (!pipe_) throw Error("cannot start gnuplot");
     say("set encoding utf8");
     say("set terminal pngcairo noenhanced size 1600," + std::to_string(layout.height) +
@@ -85,9 +87,16 @@ void Picture::finish()
 {
     say("unset multiplot\nset output");
     const int status = pclose(std::exchange(pipe_, nullptr));
+    if (status == 0 && fs::exists(png_) && !fs::is_empty(png_)) return;
+    fs::remove(png_);
     if (WIFEXITED(status) && WEXITSTATUS(status) == 127) throw Error("gnuplot is not installed");
     if (status != 0) throw Error("gnuplot failed");
-    if (!fs::exists(png_) || fs::is_empty(png_)) throw Error(png_.string() + ": cannot write the picture");
+    fail();
+}
+
+void Picture::fail() const
+{
+    throw Error(png_.string() + ": cannot write the picture");
 }
 
 } // namespace example

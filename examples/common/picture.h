@@ -36,6 +36,8 @@ public:
     void finish();                                                // throws where there is no picture then
 
 private:
+    [[noreturn]] void fail() const;
+
     std::filesystem::path png_;
     std::FILE* pipe_;
 };

@@ -9,9 +9,10 @@
 namespace ecg {
 namespace {
 
-constexpr double complexSeconds = 0.09; // from the middle of a hump to either end of its complex
+constexpr double complexSeconds = 0.1;  // from the middle of a hump to either end of its complex
 constexpr double baselineSeconds = 0.3; // about a complex
 
+// What lies up to so many seconds before and behind a sample.
 std::span<const Zor32f> about(const Channel& channel, int centre, double seconds, int rate)
 {
     const int reach = std::max(1, static_cast<int>(std::lround(seconds * rate)));
@@ -19,15 +20,30 @@ std::span<const Zor32f> about(const Channel& channel, int centre, double seconds
     return channel.part(begin, end - begin);
 }
 
-// The R wave is what rises out of the baseline, however deep the waves beside it; a complex that hardly rises, as in
+// The highest summit of the signal times `sign`; the middle where it only rises or falls, as when the trace drifts.
+std::size_t summit(std::span<const Zor32f> signal, Zor32f sign)
+{
+    std::size_t best = signal.size() / 2;
+    bool found = false;
+    for (std::size_t i = 1; i + 1 < signal.size(); ++i) {
+        const Zor32f value = sign * signal[i];
+        if (value <= sign * signal[i - 1] || value < sign * signal[i + 1]) continue;
+        if (!found || value > sign * signal[best]) best = i;
+        found = true;
+    }
+    return best;
+}
+
+// The R wave is what rises out of the baseline, however deep the waves beside it. A complex that hardly rises, as in
 // leads that see the heart from behind, is placed by its depth.
 int placeOfR(const Channel& channel, int hump, int rate)
 {
     const auto complex = about(channel, hump, complexSeconds, rate);
+    const Range range = rangeOf(complex);
     const Zor32f baseline = statisticsOf(about(channel, hump, baselineSeconds, rate)).mean;
-    const auto [lowest, highest] = std::minmax_element(complex.begin(), complex.end());
-    const auto peak = *highest - baseline >= (baseline - *lowest) / 2 ? highest : lowest;
-    return static_cast<int>(&*peak - channel.data());
+    const bool rises = range.max - baseline >= (baseline - range.min) / 2;
+    return static_cast<int>(complex.data() - channel.data()) +
+           static_cast<int>(summit(complex, rises ? 1.0f : -1.0f));
 }
 
 std::vector<Zor64f> differencesOf(const std::vector<Zor64f>& values)
@@ -44,7 +60,7 @@ std::vector<Zor64f> differencesOf(const std::vector<Zor64f>& values)
 
 std::optional<Beats> beatsOf(const Channel& channel, int rate)
 {
-    if (rate < leastRateForQrs) return std::nullopt;
+    if (rate < leastRateForQrs || rate > mostRateForQrs) return std::nullopt;
     QrsStages stages = qrsStagesOf(channel, rate);
     Detection detection = detectQrs(stages, rate);
     Beats beats{std::move(stages), std::move(detection.threshold), {}, {}, {}};

@@ -15,7 +15,7 @@ struct Beats {
     std::vector<Zor64f> intervals; // R-R, from each beat to the next, in seconds
 };
 
-// Where the sampling rate is too low to search for any there is no value; where nothing stands out of the noise there
+// Where the sampling rate does not serve to find any there is no value; where nothing stands out of the noise there
 // are no beats.
 std::optional<Beats> beatsOf(const Channel& channel, int rate);
 

@@ -6,7 +6,7 @@
 namespace ecg {
 
 // The middle one of an odd number of taps stands for the sample itself: those before it weigh what comes later. The
-// signal is continued at both ends by its first and its last sample.
+// signal goes on at both ends as its mirror image.
 Channel filteredAboutCentre(const Channel& channel, const Vector<Zor32f>& taps);
 
 } // namespace ecg

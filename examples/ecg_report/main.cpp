@@ -52,7 +52,7 @@ void writeBeats(const fs::path& stem, const std::vector<std::optional<ecg::Beats
         if (beats.size() > 1) csv.append("_").append(std::to_string(i + 1));
         csv += ".csv";
         ecg::writeBeats(csv, *beats[i]);
-        std::printf("beats:          %s\n", csv.c_str());
+        std::printf("table of beats: %s\n", csv.c_str());
     }
 }
 

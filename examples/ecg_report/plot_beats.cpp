@@ -71,7 +71,7 @@ void drawTrace(Picture& picture, const Channel& channel, const std::optional<Bea
     picture.say("set ylabel 'millivolts'");
     std::string what = std::string("$trace with lines ") + trace;
     if (beats) what += markBeats(picture, channel, *beats, excerpt, high + room / 2);
-    const char* const title = !beats                  ? "sampled too slowly to find its beats"
+    const char* const title = !beats                  ? "beats are not to be found at its rate"
                               : beats->places.empty() ? "no beats found"
                                                       : "beats and the intervals between them in ms";
     picture.plot(name + "electrocardiogram, " + title, what);

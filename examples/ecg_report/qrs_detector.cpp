@@ -14,6 +14,7 @@ namespace {
 constexpr double refractorySeconds = 0.2; // a ventricle does not answer again so soon
 constexpr double tWaveSeconds = 0.36;     // until then a gentle hump is the T wave of the complex before it
 constexpr double humpSeconds = 0.1;       // no two humps are closer
+constexpr double edgeSeconds = 0.04;      // a complex that an end of the recording cuts in two is none
 constexpr double learningSeconds = 2;     // hold a complex, whatever the rate
 constexpr std::size_t averaged = 8;       // intervals
 constexpr double overdue = 1.66;          // average intervals after a complex one must have been missed
@@ -84,13 +85,14 @@ public:
     Detection run() &&
     {
         const std::vector<int> humps = humpsOf(stages_.integrated, samplesIn(humpSeconds));
+        const int first = samplesIn(edgeSeconds), end = stages_.integrated.len();
         for (const int hump : humps) {
+            if (hump < first || hump >= end - first) continue;
             drawThreshold(hump);
             while (isOverdue(hump) && searchBack()) {
             }
             consider(hump);
         }
-        const int end = stages_.integrated.len();
         drawThreshold(end);
         while (isOverdue(end) && searchBack()) {
         }

@@ -12,8 +12,9 @@ struct QrsStages {
     Channel integrated;   // the mean of that over the time of a complex: a hump for each
 };
 
-// Below so many samples a second the band is not there.
-constexpr int leastRateForQrs = 50;
+// Sampling rates, in Hz. Below the least the band is not there; above the most the filters are as long as some
+// recordings.
+constexpr int leastRateForQrs = 50, mostRateForQrs = 100'000;
 
 QrsStages qrsStagesOf(const Channel& channel, int rate);
 

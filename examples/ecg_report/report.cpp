@@ -57,7 +57,8 @@ void printPulse(const Channel& channel, int rate)
 void printBeats(const std::optional<Beats>& beats)
 {
     if (!beats) {
-        std::printf("beats: not to be found below %d samples a second\n", leastRateForQrs);
+        std::printf("beats: only found at rates of %d to %d samples a second\n", leastRateForQrs,
+                    mostRateForQrs);
         return;
     }
     if (beats->places.empty()) {

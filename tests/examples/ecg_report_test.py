@@ -1,6 +1,8 @@
 """Runs the report on real, made and bad recordings.   usage: ecg_report_test.py PROGRAM RECORDING"""
 import array
 import bisect
+import csv
+import itertools
 import math
 import pathlib
 import random
@@ -51,13 +53,42 @@ def heart_rates(report):
     return [float(rate) for rate in re.findall(r"^heart rate: ([\d.]+) beats per minute", report, re.MULTILINE)]
 
 
-def beats(rate, seconds, per_minute):
-    """A made electrocardiogram: a QRS complex and a T wave for each beat, on a wandering baseline, with noise."""
+def beats(rate, seconds, per_minute, deviation=3):
+    """A made electrocardiogram: a QRS complex, its R peak at 0.3 s, and a T wave for each beat, on a wandering
+    baseline, with noise."""
     noise = random.Random(per_minute)
     for i in range(rate * seconds):
         t = (i / rate) % (60 / per_minute) - 0.3
         complexes = 300 * math.exp(-((t / 0.017) ** 2)) + 70 * math.exp(-(((t - 0.2) / 0.07) ** 2))
-        yield round(complexes + 200 * math.sin(i / rate) + noise.gauss(0, 3))
+        yield round(complexes + 200 * math.sin(i / rate) + noise.gauss(0, deviation))
+
+
+def peaks(samples, rate):
+    """The seconds at which a trace is highest within 0.15 s to either side, and half as far above the mean of 0.8 s as
+    it is usually at most in 2 s: what an eye counts."""
+    sums = [0, *itertools.accumulate(samples)]
+    length, reach, near = len(samples), round(0.4 * rate), round(0.15 * rate)
+    above = []
+    for i, sample in enumerate(samples):
+        begin, end = max(0, i - reach), min(length, i + reach + 1)
+        above.append(sample - (sums[end] - sums[begin]) / (end - begin))
+    least = statistics.median(max(above[i : i + 2 * rate]) for i in range(0, length, 2 * rate)) / 2
+    return [i / rate for i, a in enumerate(above) if a > least and a == max(above[max(0, i - near) : i + near + 1])]
+
+
+def matched(times, others, tolerance=0.05):
+    """The share of `times` that have one of `others` beside them."""
+    return sum(any(abs(t - o) <= tolerance for o in others) for t in times) / len(times)
+
+
+def beat_table(path):
+    """Seconds, and the interval before each beat; None where there is none."""
+    with path.open(newline="") as file:
+        lines = list(csv.reader(file))
+    assert lines[0] == ["beat", "time (s)", "R-R interval (s)", "rate (1/min)"]
+    assert [int(line[0]) for line in lines[1:]] == list(range(1, len(lines)))
+    assert all(abs(float(line[3]) - 60 / float(line[2])) < 0.01 + 0.2 / len(line[2]) for line in lines[1:] if line[2])
+    return [float(line[1]) for line in lines[1:]], [float(line[2]) if line[2] else None for line in lines[1:]]
 
 
 def signal_to_noise(samples, decode):
@@ -109,7 +140,8 @@ class EcgReport(unittest.TestCase):
             self.assertLess(abs(math.fsum(got) / length), 0.51)
             self.assertLess(max(abs(g - (s - mean)) for g, s in zip(got, samples)), 0.51)
 
-        for ending, height, least in ("", 850, 15_000), ("_spectrum", 850, 50_000), ("_spectrogram", 600, 30_000):
+        for ending, height, least in ("", 850, 15_000), ("_spectrum", 850, 50_000), ("_spectrogram", 600, 30_000), \
+                ("_beats", 1080, 40_000):
             png = (self.out / f"{name}{ending}.png").read_bytes()
             self.assertEqual(png[:8], b"\x89PNG\r\n\x1a\n")
             self.assertEqual(struct.unpack(">II", png[16:24]), (1600, height * len(channels)))
@@ -131,6 +163,84 @@ class EcgReport(unittest.TestCase):
         # Where the step doubles a decision value is not quite half-way between two levels.
         self.assertAlmostEqual(float(found[1]), signal_to_noise(channels[0], audioop.ulaw2lin), delta=0.1)
         self.assertAlmostEqual(float(found[2]), signal_to_noise(channels[0], audioop.alaw2lin), delta=0.1)
+
+    def check_beats(self, report, times, intervals):
+        """What is printed about the beats is what their table says."""
+        for previous, time, interval in zip(times, times[1:], intervals[1:]):
+            if time - previous > 2:
+                self.assertIsNone(interval)  # the trace was lost
+            else:
+                self.assertAlmostEqual(interval, time - previous, delta=2e-5)
+        known = [i for i in intervals if i is not None]
+        changes = [b - a for a, b in zip(intervals, intervals[1:]) if a is not None and b is not None]
+        rate, sdnn, rmssd = map(float, re.search(
+            rf"^beats: {len(times)}, mean heart rate ([\d.]+) per minute, SDNN ([\d.]+) ms, RMSSD ([\d.]+) ms$",
+            report, re.MULTILINE).groups())
+        self.assertAlmostEqual(rate, 60 / statistics.fmean(known), delta=0.06)
+        self.assertAlmostEqual(sdnn, 1000 * statistics.stdev(known), delta=0.06)
+        self.assertAlmostEqual(rmssd, 1000 * math.sqrt(statistics.fmean(c * c for c in changes)), delta=0.06)
+
+    def test_beats_of_the_recording(self):
+        rate, (trace,) = read_wav(RECORDING)
+        report = self.run_report().stdout
+        times, intervals = beat_table(self.out / "ecg_360hz_beats.csv")
+        self.check_beats(report, times, intervals)
+        self.assertEqual(intervals.count(None), 4)  # the first beat, and three times the electrodes lose the heart
+        counted = peaks(trace, rate)
+        sensitivity, predictivity = matched(counted, times), matched(times, counted)
+        print(f"{len(times)} beats, {len(counted)} peaks: sensitivity {sensitivity:.4f}, positive predictivity "
+              f"{predictivity:.4f}")
+        self.assertAlmostEqual(len(times), 498, delta=5)
+        self.assertGreater(min(sensitivity, predictivity), 0.985)
+
+    def test_beats_have_the_time_of_their_r_peak(self):
+        cases = (360, 60, 39, 3, 1), (250, 60, 75, 40, 1), (500, 30, 201, 3, 1), (360, 30, 90, 3, -1), (50, 30, 70, 3, 1), \
+            (8000, 4, 120, 3, 1)
+        for rate, seconds, pulse, deviation, sign in cases:
+            with self.subTest(rate=rate, pulse=pulse, deviation=deviation, sign=sign):
+                write_wav(self.folder / "made.wav", rate, [sign * s for s in beats(rate, seconds, pulse, deviation)])
+                report = self.run_report(self.folder / "made.wav").stdout
+                times, intervals = beat_table(self.out / "made_beats.csv")
+                self.check_beats(report, times, intervals)
+                wanted = [0.3 + k * 60 / pulse for k in range(math.ceil((seconds - 0.3) * pulse / 60))]
+                self.assertEqual(len(times), len(wanted))
+                # Noise moves a peak along its flat top.
+                self.assertLess(max(abs(t - w) for t, w in zip(times, wanted)), 0.5 / rate + 0.001 * deviation)
+
+    def test_what_has_no_beats(self):
+        noise = random.Random(4)
+        wandering = itertools.accumulate(range(60 * 360), lambda sum, _: 0.98 * sum + noise.gauss(0, 20), initial=0)
+        cases = {
+            "white noise": [round(noise.gauss(0, 100)) for _ in range(60 * 360)],
+            "wandering": [round(w) for w in wandering],
+            "steps of one": [noise.randrange(-1, 2) for _ in range(60 * 360)],
+            "constant": [777] * 3600,
+            "hum": [round(300 * math.sin(2 * math.pi * i / 7.2)) for i in range(3600)],
+        }
+        for name, samples in cases.items():
+            with self.subTest(name):
+                write_wav(self.folder / "made.wav", 360, samples)
+                result = self.run_report(self.folder / "made.wav")
+                self.assertEqual((result.returncode, result.stderr), (0, ""))
+                self.assertIn("\nbeats: none found\n", result.stdout)
+                self.assertEqual(beat_table(self.out / "made_beats.csv"), ([], []))
+
+    def test_what_has_too_few_beats(self):
+        made = list(beats(360, 3, 60))
+        few = "; too few for mean heart rate, SDNN, RMSSD"
+        for length, said in (900, ", mean heart rate 60.0 per minute, SDNN 0.0 ms, RMSSD 0.0 ms"), \
+                (540, ", mean heart rate 60.0 per minute; too few for SDNN, RMSSD"), (300, few):
+            with self.subTest(length=length):
+                write_wav(self.folder / "short.wav", 360, made[:length])
+                result = self.run_report(self.folder / "short.wav")
+                self.assertEqual((result.returncode, result.stderr), (0, ""))
+                self.assertIn(f"\nbeats: {round(length / 360 + 0.2)}{said}\n", result.stdout)
+        write_wav(self.folder / "slow.wav", 49, made)
+        result = self.run_report(self.folder / "slow.wav")
+        self.assertEqual((result.returncode, result.stderr), (0, ""))
+        self.assertIn("\nbeats: only found at rates of 50 to 100000 samples a second\n", result.stdout)
+        self.assertFalse((self.out / "slow_beats.csv").exists())
+        self.assertTrue((self.out / "slow_beats.png").exists())
 
     def test_stereo_with_a_last_segment_of_one_sample(self):
         noise = random.Random(1)
@@ -207,6 +317,11 @@ class EcgReport(unittest.TestCase):
             (self.out / "short.png" / "inside").unlink()
         with self.subTest("nobody reads the report"), open("/dev/full", "w") as full:
             self.check_failure(self.run_report(short, stdout=full), "standard output")
+        with self.subTest("the disk is full when the beats are written"):
+            (self.out / "short_beats.csv").unlink()  # of the run before
+            (self.out / "short_beats.csv").symlink_to("/dev/full")
+            self.check_failure(self.run_report(short), "short_beats.csv: cannot write")
+            (self.out / "short_beats.csv").unlink()
         with self.subTest("no gnuplot"):
             self.check_failure(self.run_report(short, env={"PATH": "/nowhere"}), "gnuplot is not installed")
         with self.subTest("a gnuplot that fails at once"):

@@ -1,6 +1,7 @@
 """Measures what the filter does to made and real recordings.   usage: wav_filter_test.py PROGRAM RECORDING"""
 import array
 import cmath
+import json
 import math
 import operator
 import os
@@ -8,6 +9,7 @@ import pathlib
 import pty
 import random
 import resource
+import shutil
 import signal
 import struct
 import subprocess
@@ -17,6 +19,7 @@ import time
 import unittest
 
 PROGRAM, RECORDING = sys.argv[1], pathlib.Path(sys.argv[2])
+RESPONSES = json.loads(pathlib.Path(__file__).with_name("response_values.json").read_text())
 
 # What the low-pass filter of a rate conversion is designed for.
 PASS_EDGE = 0.91  # of the lower Nyquist frequency
@@ -107,10 +110,10 @@ class WavFilter(unittest.TestCase):
         command = [PROGRAM, *map(str, arguments)]
         return subprocess.run(command, capture_output=True, text=True, timeout=300, **options)
 
-    def filtered(self, option, value, rate, encoding, *channels, said=""):
+    def filtered(self, option, value, rate, encoding, *channels, said="", more=()):
         """Rate and channels of the result."""
         write_wav(self.source, rate, encoding, *channels)
-        result = self.run_filter(option, value, self.source, self.result)
+        result = self.run_filter(option, value, *more, self.source, self.result)
         self.assertEqual((result.returncode, result.stdout, result.stderr), (0, "", said))
         rate, written, _, filtered = read_wav(self.result)
         self.assertEqual((written, len(filtered)), (encoding, len(channels)))
@@ -209,6 +212,102 @@ class WavFilter(unittest.TestCase):
         for option, value in ("--rate", "3/4"), ("--taps", taps):
             whole, first, second = (self.filtered(option, value, 8000, "double", s)[1][0] for s in (samples, *parts))
             self.assertLess(max(abs(w - a - b) for w, a, b in zip(whole, first, second)), 1e-13)
+
+    # Bands
+
+    def test_bands_have_the_response_of_their_design(self):
+        rate, frequencies = RESPONSES["rate"], RESPONSES["frequencies"]
+        source = tones(rate, 2, frequencies)
+        sent = [component(source, rate, f) for f in frequencies]
+        for design in RESPONSES["designs"]:
+            option, value, *more = design["options"]
+            with self.subTest(" ".join(design["options"])):
+                got_rate, (samples,) = self.filtered(option, value, rate, "double", source, more=more)
+                self.assertEqual((got_rate, len(samples)), (rate, len(source)))
+                gains = [component(samples, rate, f) / s for f, s in zip(frequencies, sent)]
+                error = max(abs(g - complex(*w)) for g, w in zip(gains, design["gains"]))
+                print(f"{' '.join(design['options'])}: response within {error:.1e}")
+                self.assertLess(error, 1e-6 if value == "130" else 1e-10)
+
+    def test_bands_of_every_encoding(self):
+        noise = random.Random(5)
+        full = [noise.uniform(-0.5, 0.5) for _ in range(20_000)]
+        for options in (["--fir", "101"], ["--iir", "8"]):
+            whole = self.filtered("--lowpass", "1000.5", 8000, "double", full, more=options)[1][0]
+            for encoding, scale in ("16", 2**15), ("24", 2**23), ("32", 2**31), ("float", 1):
+                with self.subTest(encoding=encoding, options=options):
+                    samples = [s * scale if scale == 1 else round(s * scale) for s in full]
+                    other = samples[1:] + samples[:1]
+                    rows = self.filtered("--lowpass", "1000.5", 8000, encoding, other, samples, *[other] * 4,
+                                         more=options)[1]
+                    # The result's rounding, the source's, and for 16 bits that of single precision.
+                    most = 2**-23 if scale == 1 else 1.7 / scale
+                    self.assertLess(max(abs(g / scale - w) for g, w in zip(rows[1], whole)), most)
+                    self.assertEqual(rows[0][:10_000], rows[5][:10_000])
+
+    def test_bands_of_short_files(self):
+        for options in ([], ["--fir", "1001"], ["--iir", "11"]):
+            for frames in 0, 1, 7:
+                _, (samples,) = self.filtered("--highpass", "1000", 8000, "float", [0.5] * frames, more=options)
+                self.assertEqual(len(samples), frames)
+        # A filter without delay turned about a click is itself.
+        click = [0.0] * 50 + [1.0] + [0.0] * 50
+        _, (taps,) = self.filtered("--bandpass", "1e3:+1500", 8000, "double", click, more=["--fir", "61"])
+        self.assertLess(max(abs(a - b) for a, b in zip(taps, reversed(taps))), 1e-15)
+        self.assertEqual(max(taps), taps[50])
+
+    # Pictures
+
+    def picture(self, *options):
+        """What gnuplot is sent, and its data blocks as lists of numbers."""
+        sent = self.folder / "commands"
+        spy = self.folder / "gnuplot"
+        spy.write_text(f"#!/bin/sh\ntee '{sent}' | {shutil.which('gnuplot')} \"$@\"\n")
+        spy.chmod(0o755)
+        write_wav(self.source, RESPONSES["rate"], "16", [0] * 10)
+        png = self.folder / "it's a picture.png"
+        path = f"{self.folder}:{os.environ['PATH']}"
+        result = self.run_filter(*options, "--response", png, self.source, self.result, env={"PATH": path})
+        self.assertEqual((result.returncode, result.stdout, result.stderr), (0, "", ""))
+        self.assertEqual(png.read_bytes()[:8], b"\x89PNG\r\n\x1a\n")
+        self.assertEqual(struct.unpack(">II", png.read_bytes()[16:24]), (1600, 1360))
+        self.assertTrue(self.result.exists())
+        text = sent.read_text()
+        blocks = {}
+        for name in "level", "phase", "delay":
+            lines = text.split(f"${name} << end\n")[1].split("\nend\n")[0].splitlines()
+            blocks[name] = [tuple(map(float, line.split())) for line in lines if line]
+        return text, blocks
+
+    def test_response_is_drawn(self):
+        for design in RESPONSES["designs"]:
+            with self.subTest(" ".join(design["options"])):
+                text, blocks = self.picture(*design["options"])
+                self.assertIn(design["options"][0][2:5], text)
+                compared = 0
+                for frequency, gain, delay in zip(RESPONSES["frequencies"], design["gains"], design["delays"]):
+                    gain = complex(*gain)
+                    if abs(gain) < 0.01:
+                        continue
+                    compared += 1
+                    # Of the frequencies drawn some are a little higher, some lower.
+                    near = {name: [v for f, v in blocks[name] if abs(f / frequency - 1) < 0.008] for name in blocks}
+                    for values, wanted, most in (near["level"], decibels(abs(gain)), 0.02), \
+                            (near["delay"], delay, 0.002 * abs(delay) + 1e-5):
+                        self.assertLess(min(values) - most, wanted)
+                        self.assertLess(wanted, max(values) + most)
+                    turned = [(math.degrees(cmath.phase(gain)) - phase + 180) % 360 - 180 for phase in near["phase"]]
+                    self.assertLess(min(map(abs, turned)), 2)
+                self.assertGreaterEqual(compared, 5)
+
+    def test_response_of_taps(self):
+        text, blocks = self.picture("--taps", self.taps("0 0 0 -0.5 0 0"))
+        self.assertIn("taps.txt, 6 taps", text)
+        for name, slope, offset in ("level", 0, decibels(0.5)), ("delay", 0, 3000 / RESPONSES["rate"]):
+            self.assertLess(max(abs(value - offset) for _, value in blocks[name]), 1e-6)
+        for frequency, phase in blocks["phase"]:
+            turned = phase - 180 + 360 * 3 * frequency / RESPONSES["rate"]
+            self.assertLess(abs((turned + 180) % 360 - 180), 0.002)
 
     # Taps from a file
 
@@ -371,6 +470,50 @@ class WavFilter(unittest.TestCase):
         usage = self.run_filter("--help")
         self.assertEqual((usage.returncode, usage.stderr), (0, ""))
         self.assertRegex(usage.stdout, r"^usage: (.*\n)*.*--rate(.*\n)*.*--to-rate(.*\n)*.*--taps")
+
+    def test_bad_bands(self):
+        write_wav(self.source, 8000, "16", list(range(400)))
+        files = self.source, self.result
+        for option in "--lowpass", "--highpass":
+            for value in "", "abc", "300:400", "1,5", "nan", "inf", "300 Hz":
+                self.check_failure("a frequency in hertz is needed", option, value, *files)
+            for value in "0", "-3", "4000", "1e9":
+                self.check_failure("between 0 and half the sampling rate, 4000 Hz", option, value, *files)
+        for option in "--bandpass", "--bandstop":
+            for value in "", "300", "300:", ":300", "300:x", "1:2:3":
+                self.check_failure("two frequencies in hertz are needed, such as", option, value, *files)
+            for value in "0:300", "300:4000", "-1:2":
+                self.check_failure("between 0 and half the sampling rate", option, value, *files)
+            for value in "300:300", "400:300":
+                self.check_failure("the lower frequency comes first", option, value, *files)
+        for taps in "0", "-1", "x", "3.5", "":
+            self.check_failure(f"--fir {taps}: a positive whole number", "--lowpass", "9", "--fir", taps, *files)
+        for taps in "1", "3", "100", "1048577":
+            self.check_failure("an odd number of taps is needed, from 5 to 1048575", "--lowpass", "9", "--fir", taps,
+                               *files)
+        self.check_failure("so narrow", "--lowpass", "0.001", *files)
+        self.check_failure("so narrow", "--bandstop", "1000:1000.01", *files)
+        self.check_failure("a positive whole number", "--lowpass", "9", "--iir", "0", *files)
+        self.check_failure("the order is 12 at most", "--lowpass", "900", "--iir", "13", *files)
+        for ripple in "0", "-1", "29.01":
+            self.check_failure("above 0 and at most 29 dB", "--lowpass", "900", "--iir", "3", "--ripple", ripple, *files)
+        self.check_failure("a number is needed", "--lowpass", "900", "--iir", "3", "--ripple", "much", *files)
+        self.check_failure("--fir stops a band", "--bandstop", "300:900", "--iir", "3", *files)
+        self.check_failure("too high an order for 20 Hz at 8000", "--bandpass", "20:900", "--iir", "8", *files)
+        self.check_failure("too high an order for 3980 Hz", "--highpass", "3980", "--iir", "8", *files)
+        for line in "--rate 1/2 --fir 9", "--taps t --iir 3", "--lowpass 9 --fir 9 --iir 3", "--lowpass 9 --ripple 1", \
+                "--lowpass 9 --fir 9 --ripple 1", "--lowpass 9 --highpass 9", "--fir 9", "--to-rate 9 --response p":
+            self.check_failure("--help", *line.split(), *files)
+
+    def test_bad_pictures(self):
+        write_wav(self.source, 8000, "16", list(range(400)))
+        command = "--lowpass", "900", "--response"
+        self.check_failure("is the file that is read", *command, self.source, self.source, self.result)
+        self.check_failure("a file each", *command, self.result, self.source, self.result)
+        self.check_failure("p.png: cannot write the picture", *command, self.folder / "none" / "p.png",
+                           self.source, self.result)
+        self.check_failure("gnuplot is not installed", *command, self.folder / "p.png", self.source, self.result,
+                           env={"PATH": "/nowhere"})
 
     def test_bad_output(self):
         write_wav(self.source, 8000, "16", [1000] * 50_000)
