@@ -43,6 +43,11 @@ std::string captionOf(const fs::path& input)
            "1.0";
 }
 
+void tell(const char* what, const fs::path& path)
+{
+    std::printf("%-15s %s\n", what, path.c_str());
+}
+
 // A table for each channel; its name tells which, where there are several.
 void writeBeats(const fs::path& stem, const std::vector<std::optional<ecg::Beats>>& beats)
 {
@@ -52,7 +57,7 @@ void writeBeats(const fs::path& stem, const std::vector<std::optional<ecg::Beats
         if (beats.size() > 1) csv.append("_").append(std::to_string(i + 1));
         csv += ".csv";
         ecg::writeBeats(csv, *beats[i]);
-        std::printf("table of beats: %s\n", csv.c_str());
+        tell("table of beats:", csv);
     }
 }
 
@@ -77,9 +82,12 @@ void run(const Arguments& arguments)
     ecg::drawSpectrum(spectrum, recording, caption);
     ecg::drawSpectrogram(spectrogram, recording, caption);
     ecg::drawBeats(marked, recording, beats, caption);
-    std::printf("\nwithout offset: %s\ntrace:          %s\nspectrum:       %s\nspectrogram:    %s\nbeats:    "
-                "      %s\n",
-                wav.c_str(), trace.c_str(), spectrum.c_str(), spectrogram.c_str(), marked.c_str());
+    std::printf("\n");
+    tell("without offset:", wav);
+    tell("trace:", trace);
+    tell("spectrum:", spectrum);
+    tell("spectrogram:", spectrogram);
+    tell("marked beats:", marked);
     writeBeats(stem, beats);
     if (std::fflush(stdout) != 0 || std::ferror(stdout))
         throw ecg::Error("cannot write to the standard output");

@@ -93,8 +93,8 @@ void drawStages(Picture& picture, const Beats& beats, const Excerpt& excerpt, co
     picture.range("y", 0, 1.1 * std::max<double>({activity.max, threshold.max, 0.1}));
     picture.say("set ylabel '(mV/s)²'");
     picture.plot(name + "square of its slope, averaged over 0.15 s, and the threshold",
-                 std::string("$integrated with lines ") + trace + ", $threshold with steps dashtype 2 " +
-                     mark);
+                 std::string("$integrated with lines ") + trace +
+                     ", $threshold with steps linewidth 1.5 dashtype 2 " + mark);
 }
 
 } // namespace

@@ -39,8 +39,9 @@ std::vector<std::size_t> places(const Response& response, double least)
 class Curves {
 public:
     Curves(Picture& picture, const Filter& filter, int rate)
-        : picture_(picture), rate_(rate), least_(leastFrequency(filter, rate)),
-          response_(responseOf(filter, rate, least_ / 32)), places_(places(response_, least_))
+        : picture_(picture), rate_(rate), banded_(!filter.edges.empty()),
+          least_(leastFrequency(filter, rate)), response_(responseOf(filter, rate, least_ / 32)),
+          places_(places(response_, least_))
     {
         picture.range("x", least_, rate / 2.0);
         for (int i = 1; const double edge : filter.edges) {
@@ -65,8 +66,9 @@ public:
         const double highest = *std::ranges::max_element(response_.level);
         picture_.range("y", lowest, 10 * std::ceil((highest + 1) / 10));
         plot(title, "$level");
-        picture_.say("set ytics 2");
-        picture_.range("y", std::floor(highest) - 7, std::ceil(highest + 0.5));
+        // Of a band's ripple all is shown, of other filters the highest levels.
+        picture_.say("set ytics autofreq");
+        picture_.range("y", banded_ ? -7 : std::floor(highest) - 7, std::ceil(highest + 0.5));
         plot("enlarged", "$level");
     }
 
@@ -120,6 +122,7 @@ private:
 
     Picture& picture_;
     int rate_;
+    bool banded_;
     double least_;
     Response response_;
     std::vector<std::size_t> places_;
