@@ -46,7 +46,10 @@ Picture::Picture(const fs::path& png, const Layout& layout, const std::string& c
 
 Picture::~Picture()
 {
-    if (pipe_) pclose(pipe_);
+    if (!pipe_) return;
+    pclose(pipe_);
+    std::error_code ignored;
+    fs::remove(png_, ignored); // half a picture is none
 }
 
 void Picture::say(const std::string& line)

@@ -1,5 +1,6 @@
 #include "plot_response.h"
 
+#include "common/error.h"
 #include "common/picture.h"
 #include "response.h"
 
@@ -12,7 +13,7 @@ namespace {
 using example::number, example::Picture;
 
 constexpr int points = 3000;     // about two a pixel
-constexpr double faintest = -50; // dB: phase and delay of what is weaker are not shown
+constexpr double faintest = -50; // dB of the highest level: phase and delay of what is weaker are not shown
 constexpr double lowest = -100;  // dB, of the axis: recursive filters of high orders round below it
 
 // Where the frequencies begin: a decade below the band, or three below half the sampling rate.
@@ -41,8 +42,9 @@ public:
     Curves(Picture& picture, const Filter& filter, int rate)
         : picture_(picture), rate_(rate), banded_(!filter.edges.empty()),
           least_(leastFrequency(filter, rate)), response_(responseOf(filter, rate, least_ / 32)),
-          places_(places(response_, least_))
+          places_(places(response_, least_)), highest_(*std::ranges::max_element(response_.level))
     {
+        if (std::isinf(highest_)) throw example::Error("--response: nothing passes the filter");
         picture.range("x", least_, rate / 2.0);
         for (int i = 1; const double edge : filter.edges) {
             const std::string at = number(edge);
@@ -60,15 +62,15 @@ public:
         };
         for (std::size_t i = 0; i < places_.size(); ++i) {
             const std::size_t end = i + 1 < places_.size() ? places_[i + 1] : places_[i] + 1;
-            point(places_[i], std::max(*std::max_element(at(places_[i]), at(end)), 2 * lowest));
+            point(places_[i], std::max(*std::max_element(at(places_[i]), at(end)), 4 * lowest));
         }
         picture_.say("end\nset ylabel 'dB'\nset ytics 20");
-        const double highest = *std::ranges::max_element(response_.level);
-        picture_.range("y", lowest, 10 * std::ceil((highest + 1) / 10));
+        const double top = 10 * std::ceil((highest_ + 1) / 10);
+        picture_.range("y", std::min(lowest, top + lowest), top);
         plot(title, "$level");
         // Of a band's ripple all is shown, of other filters the highest levels.
         picture_.say("set ytics autofreq");
-        picture_.range("y", banded_ ? -7 : std::floor(highest) - 7, std::ceil(highest + 0.5));
+        picture_.range("y", banded_ ? -7 : std::floor(highest_) - 7, std::ceil(highest_ + 0.5));
         plot("enlarged", "$level");
     }
 
@@ -108,7 +110,7 @@ public:
     }
 
 private:
-    bool audible(std::size_t k) const { return response_.level[k] > faintest; }
+    bool audible(std::size_t k) const { return response_.level[k] > highest_ + faintest; }
 
     void point(std::size_t k, double value)
     {
@@ -126,6 +128,7 @@ private:
     double least_;
     Response response_;
     std::vector<std::size_t> places_;
+    double highest_; // level
 };
 
 } // namespace

@@ -308,6 +308,9 @@ class WavFilter(unittest.TestCase):
         for frequency, phase in blocks["phase"]:
             turned = phase - 180 + 360 * 3 * frequency / RESPONSES["rate"]
             self.assertLess(abs((turned + 180) % 360 - 180), 0.002)
+        _, blocks = self.picture("--taps", self.taps("1e-12"))
+        self.assertLess(max(abs(level + 240) for _, level in blocks["level"]), 1e-6)
+        self.assertGreater(len(blocks["delay"]), 1000)
 
     # Taps from a file
 
@@ -512,6 +515,8 @@ class WavFilter(unittest.TestCase):
         self.check_failure("a file each", *command, self.result, self.source, self.result)
         self.check_failure("p.png: cannot write the picture", *command, self.folder / "none" / "p.png",
                            self.source, self.result)
+        self.check_failure("nothing passes", "--taps", self.taps("0 0"), "--response", self.folder / "p.png", self.source,
+                           self.result)
         self.check_failure("gnuplot is not installed", *command, self.folder / "p.png", self.source, self.result,
                            env={"PATH": "/nowhere"})
 
