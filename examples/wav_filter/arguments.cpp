@@ -28,9 +28,9 @@ const char* const usage =
     "Rate conversion passes 0.91 of the lower Nyquist frequency, holds aliases and images 100 dB down, and\n"
     "does not delay. Taps are numbers between blanks or line ends, h[0] first; # begins a comment.\n"
     "Filters for a band have a Hamming window, linear phase and no delay: 6 dB down at the edges, and 53 dB\n"
-    "from 1.65 sampling rates / TAPS beyond. With feedback they delay, and are 3 dB down at the edges, or "
-    "as\n"
-    "far as the ripple; a band is passed by two of them, and cannot be stopped.\n";
+    "from 1.65 sampling rates / TAPS beyond. With feedback they delay, and are 3 dB down at the edges; with\n"
+    "ripple by as much in odd orders, in even ones 0 dB, the ripple above. A band is passed by two of them,\n"
+    "and cannot be stopped.\n";
 
 namespace {
 
