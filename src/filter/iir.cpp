@@ -23,13 +23,36 @@ void filter(const IirData<State>* pSrc, IirData<State>* pDst, int len, State* pS
     }
 }
 
+// Sample by sample, with denormals as they are or as zeros.
+template <class State>
+[[gnu::always_inline]] inline void filterSample(IirData<State> src, IirData<State>* pDst,
+                                                IirRecord<IirNumber<State>>& r, int scaleFactor)
+{
+    if constexpr (KindOfIir<State>::converts) {
+        IirNumber<State> x;
+        loadNumbers(&src, &x, 1);
+        x = filterOne(r, x);
+        storeNumbers(&x, pDst, 1, scaleFactor);
+    } else {
+        *pDst = filterOne(r, src);
+    }
+}
+
+template <class State>
+[[gnu::noinline]] void filterQuietSample(IirData<State> src, IirData<State>* pDst,
+                                         IirRecord<IirNumber<State>>& r, int scaleFactor)
+{
+    const FlushedArithmetic arithmetic(r.control);
+    filterSample<State>(src, pDst, r, scaleFactor);
+}
+
 // Only integer data have a scale factor.
 template <class State, class... Factor>
 ZorStatus iir(const IirData<State>* pSrc, IirData<State>* pDst, int len, State* pState, Factor... scaleFactor)
 {
     if (const ZorStatus bad = check(pointers(pSrc, pDst, pState), length(len))) return bad;
     if (const ZorStatus bad = iirContext(pState)) return bad;
-    const FlushedArithmetic arithmetic;
+    const FlushedArithmetic arithmetic(iirRecordOf(pState).control);
     filter(pSrc, pDst, len, pState, (0 + ... + scaleFactor));
     return zorStsOk;
 }
@@ -45,7 +68,11 @@ ZorStatus iirOne(IirData<State> src, IirData<State>* pDst, State* pState, Factor
 {
     if (const ZorStatus bad = check(pointers(pDst, pState))) return bad;
     if (const ZorStatus bad = iirContext(pState, false)) return bad;
-    filter(&src, pDst, 1, pState, (0 + ... + scaleFactor));
+    auto& r = iirRecordOf(pState);
+    if (r.isQuiet) [[unlikely]]
+        filterQuietSample<State>(src, pDst, r, (0 + ... + scaleFactor));
+    else
+        filterSample<State>(src, pDst, r, (0 + ... + scaleFactor));
     return zorStsOk;
 }
 
@@ -62,7 +89,7 @@ ZorStatus iirChannels(Source* const* ppSrc, IirData<State>* const* ppDst, int le
         if (const ZorStatus bad = pointers(ppSrc[c], ppDst[c], ppState[c])) return bad;
         if (const ZorStatus bad = iirContext(ppState[c])) return bad;
     }
-    const FlushedArithmetic arithmetic;
+    const FlushedArithmetic arithmetic(iirRecordOf(ppState[0]).control);
     for (int c = 0; c < nChannels; ++c)
         filter<State>(ppSrc[c], ppDst[c], len, ppState[c], (0 + ... + scaleFactor));
     return zorStsOk;

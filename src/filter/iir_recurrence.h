@@ -6,6 +6,7 @@
 #include "iir_record.h"
 
 #include <algorithm>
+#include <bit>
 
 namespace zors::ZORS_VARIANT {
 
@@ -113,19 +114,68 @@ void filterCascade(IirRecord<E>& r, std::ptrdiff_t s, const E* pSrc, E* pDst, st
     }
 }
 
-// Samples too few to be worth taking taps and numbers into registers. Not in direct form 1.
+// Samples too few to be worth taking taps and numbers into registers. Not in direct form 1. What goes into and comes
+// out of every section is shown to `see`.
+template <class E, class See>
+[[gnu::always_inline]] inline E nextOf(IirRecord<E>& r, E x, See see)
+{
+    see(x);
+    if (r.structure == Structure::anyOrder) {
+        x = nextOfOrder(r.taps, r.delay, r.count, x);
+        see(x);
+        return x;
+    }
+    E* delay = r.delay;
+    const E* taps = r.taps;
+    for (const E* end = taps + std::ptrdiff_t{5} * r.count; taps < end; taps += 5, delay += 2) {
+        x = nextOfSection(taps, delay, x);
+        see(x);
+    }
+    return x;
+}
+
 template <class E>
 void filterFew(IirRecord<E>& r, const E* pSrc, E* pDst, std::ptrdiff_t len)
 {
-    for (std::ptrdiff_t n = 0; n < len; ++n) {
-        E x = pSrc[n];
-        if (r.structure == Structure::anyOrder)
-            x = nextOfOrder(r.taps, r.delay, r.count, x);
-        else
-            for (std::ptrdiff_t s = 0; s < r.count; ++s)
-                x = nextOfSection(r.taps + 5 * s, r.delay + 2 * s, x);
-        pDst[n] = x;
+    for (std::ptrdiff_t n = 0; n < len; ++n) pDst[n] = nextOf(r, pSrc[n], [](E) {});
+}
+
+// Whether numbers are so small that products with them may be denormal, but not zero.
+template <class T>
+class Quietness {
+public:
+    template <class E>
+    [[gnu::always_inline]] void see(E x)
+    {
+        if constexpr (LaneOf<E>::each == 1) {
+            // The magnitude without its sign, less one, so that zero is the largest.
+            const auto magnitude = static_cast<Bits>(2 * std::bit_cast<Bits>(x) - 1);
+            least_ = magnitude < least_ ? magnitude : least_;
+        } else {
+            see(x.re);
+            see(x.im);
+        }
     }
+
+    bool isNear() const { return least_ < 2 * std::bit_cast<Bits>(small); }
+
+private:
+    using Bits = std::conditional_t<sizeof(T) == 4, Zor32u, Zor64u>;
+    static constexpr T small = sizeof(T) == 4 ? T(0x1p-100) : T(0x1p-970);
+
+    Bits least_ = ~Bits{0};
+};
+
+// One sample, without a look at the caller's arithmetic, which would take longer than the sample, as long as denormals
+// are not near.
+template <class E>
+[[gnu::always_inline]] inline E filterOne(IirRecord<E>& r, E x)
+{
+    Quietness<Lane<E>> quietness;
+    const auto y = nextOf(
+        r, x, [&](E v) __attribute__((always_inline)) { quietness.see(v); });
+    r.isQuiet = quietness.isNear();
+    return y;
 }
 
 } // namespace zors::ZORS_VARIANT
