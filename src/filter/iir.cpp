@@ -23,11 +23,11 @@ void filter(const IirData<State>* pSrc, IirData<State>* pDst, int len, State* pS
     }
 }
 
-// Sample by sample, with denormals as they are or as zeros.
 template <class State>
-[[gnu::always_inline]] inline void filterSample(IirData<State> src, IirData<State>* pDst,
-                                                IirRecord<IirNumber<State>>& r, int scaleFactor)
+[[gnu::always_inline]] inline void filterSample(IirData<State> src, IirData<State>* pDst, State* pState,
+                                                int scaleFactor)
 {
+    auto& r = iirRecordOf(pState);
     if constexpr (KindOfIir<State>::converts) {
         IirNumber<State> x;
         loadNumbers(&src, &x, 1);
@@ -38,12 +38,18 @@ template <class State>
     }
 }
 
+// Where denormals may be near, or registers would have to be saved.
 template <class State>
-[[gnu::noinline]] void filterQuietSample(IirData<State> src, IirData<State>* pDst,
-                                         IirRecord<IirNumber<State>>& r, int scaleFactor)
+[[gnu::noinline]] ZorStatus filterApart(IirData<State> src, IirData<State>* pDst, State* pState,
+                                        int scaleFactor)
 {
-    const FlushedArithmetic arithmetic(r.control);
-    filterSample<State>(src, pDst, r, scaleFactor);
+    if (!iirRecordOf(pState).isQuiet) {
+        filterSample(src, pDst, pState, scaleFactor);
+    } else {
+        const FlushedArithmetic arithmetic(iirRecordOf(pState).control);
+        filterSample(src, pDst, pState, scaleFactor);
+    }
+    return zorStsOk;
 }
 
 // Only integer data have a scale factor.
@@ -68,11 +74,10 @@ ZorStatus iirOne(IirData<State> src, IirData<State>* pDst, State* pState, Factor
 {
     if (const ZorStatus bad = check(pointers(pDst, pState))) return bad;
     if (const ZorStatus bad = iirContext(pState, false)) return bad;
-    auto& r = iirRecordOf(pState);
-    if (r.isQuiet) [[unlikely]]
-        filterQuietSample<State>(src, pDst, r, (0 + ... + scaleFactor));
-    else
-        filterSample<State>(src, pDst, r, (0 + ... + scaleFactor));
+    const auto& r = iirRecordOf(pState);
+    if (KindOfIir<State>::converts || r.isQuiet || r.structure == Structure::anyOrder)
+        return filterApart(src, pDst, pState, (0 + ... + scaleFactor));
+    filterSample(src, pDst, pState, (0 + ... + scaleFactor));
     return zorStsOk;
 }
 

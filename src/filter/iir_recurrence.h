@@ -4,6 +4,8 @@
 
 #include "dot.h"
 #include "iir_record.h"
+#include "simd/memory.h"
+#include "simd/opaque.h"
 
 #include <algorithm>
 #include <bit>
@@ -114,68 +116,126 @@ void filterCascade(IirRecord<E>& r, std::ptrdiff_t s, const E* pSrc, E* pDst, st
     }
 }
 
-// Samples too few to be worth taking taps and numbers into registers. Not in direct form 1. What goes into and comes
-// out of every section is shown to `see`.
-template <class E, class See>
-[[gnu::always_inline]] inline E nextOf(IirRecord<E>& r, E x, See see)
+// Two neighbours, and zeros.
+template <class T>
+[[gnu::always_inline]] inline auto loadBoth(const T* p)
 {
-    see(x);
-    if (r.structure == Structure::anyOrder) {
-        x = nextOfOrder(r.taps, r.delay, r.count, x);
-        see(x);
-        return x;
+    if constexpr (sizeof(T) == 8)
+        return load<2>(p);
+    else
+        return (Vec<T, 4>)Vec<Zor64f, 2>{std::bit_cast<Zor64f>(load<2>(p))};
+}
+
+// The same of real numbers in memory, both at once, for a sample in all lanes: what is fed back is in the first two.
+// Nothing is loaded that spans what was stored just before.
+template <class V, class T = ElementOf<V>>
+[[gnu::always_inline]] inline V nextOfPair(const T* taps, T* delay, V x)
+{
+    const V y = mulAdd(splat<T, lanesOf<V>>(taps[0]), x, splat<T, lanesOf<V>>(delay[0]));
+    const V next = mulAdd(loadBoth(taps + 3), y, mulAdd(loadBoth(taps + 1), x, V{delay[1]}));
+    __builtin_memcpy(delay, &next, 2 * sizeof(T));
+    return y;
+}
+
+// Whether numbers are so small that products with them may be denormal, but not zero. Of double precision the upper
+// halves are enough.
+class Quietness {
+public:
+    template <class V>
+    [[gnu::always_inline]] void see(V x)
+    {
+        // The magnitude, less one, so that zero is the largest, and as much as makes it a signed number.
+        const auto bits = (Vec<Zor32u, 4>)x;
+        const auto magnitude = (Words)(bits + bits + bias);
+        least_ = magnitude < least_ ? magnitude : least_;
     }
-    E* delay = r.delay;
+
+    template <class T>
+    bool isNear() const
+    {
+        constexpr bool isFloat = sizeof(T) == 4;
+        constexpr Zor32u small = isFloat ? std::bit_cast<Zor32u>(0x1p-100F)
+                                         : static_cast<Zor32u>(std::bit_cast<Zor64u>(0x1p-970) >> 32);
+        return least_[isFloat ? 0 : 1] < static_cast<Zor32s>(2 * small + bias);
+    }
+
+private:
+    using Words = Vec<Zor32s, 4>;
+    static constexpr Zor32u bias = 0x7fffffff;
+
+    Words least_ = Words{} + INT32_MAX;
+};
+
+// A number in all lanes of a short vector; of a complex one both parts alternate.
+template <class E>
+[[gnu::always_inline]] inline auto repeatedly(E x)
+{
+    if constexpr (LaneOf<E>::each == 1)
+        return splat<E, 16 / sizeof(E)>(x);
+    else if constexpr (sizeof(E) == 16)
+        return Vec<Zor64f, 2>{x.re, x.im};
+    else
+        return Vec<Zor32f, 4>{x.re, x.im, x.re, x.im};
+}
+
+// The next sample, by taps and numbers where they lie. Not in direct form 1.
+template <class E>
+[[gnu::always_inline]] inline E nextOfCascade(const IirRecord<E>& r, E x, Quietness& quietness)
+{
     const E* taps = r.taps;
-    for (const E* end = taps + std::ptrdiff_t{5} * r.count; taps < end; taps += 5, delay += 2) {
-        x = nextOfSection(taps, delay, x);
-        see(x);
+    E* delay = r.delay;
+    auto all = repeatedly(x);
+    quietness.see(all);
+    const auto next = [&](std::ptrdiff_t s) __attribute__((always_inline))
+    {
+        if constexpr (LaneOf<E>::each == 1) {
+            all = nextOfPair(taps + 5 * s, delay + 2 * s, all);
+        } else {
+            x = nextOfSection(taps + 5 * s, delay + 2 * s, x);
+            all = repeatedly(x);
+        }
+        quietness.see(all);
+    };
+    // Opaque, or compilers find where each would end, all before the first sample.
+    int left = r.count;
+    for (; left >= 4; left = opaque(left - 4), taps = opaque(taps + 20), delay = opaque(delay + 8)) {
+        next(0);
+        next(1);
+        next(2);
+        next(3);
     }
+    for (; left > 0; left = opaque(left - 1), taps = opaque(taps + 5), delay = opaque(delay + 2)) next(0);
+    if constexpr (LaneOf<E>::each == 1)
+        return all[0];
+    else
+        return x;
+}
+
+// The next sample of one section.
+template <class E>
+E nextOfAnyOrder(const IirRecord<E>& r, E x, Quietness& quietness)
+{
+    quietness.see(repeatedly(x));
+    x = nextOfOrder(r.taps, r.delay, r.count, x);
+    quietness.see(repeatedly(x));
     return x;
 }
 
-template <class E>
-void filterFew(IirRecord<E>& r, const E* pSrc, E* pDst, std::ptrdiff_t len)
-{
-    for (std::ptrdiff_t n = 0; n < len; ++n) pDst[n] = nextOf(r, pSrc[n], [](E) {});
-}
-
-// Whether numbers are so small that products with them may be denormal, but not zero.
-template <class T>
-class Quietness {
-public:
-    template <class E>
-    [[gnu::always_inline]] void see(E x)
-    {
-        if constexpr (LaneOf<E>::each == 1) {
-            // The magnitude without its sign, less one, so that zero is the largest.
-            const auto magnitude = static_cast<Bits>(2 * std::bit_cast<Bits>(x) - 1);
-            least_ = magnitude < least_ ? magnitude : least_;
-        } else {
-            see(x.re);
-            see(x.im);
-        }
-    }
-
-    bool isNear() const { return least_ < 2 * std::bit_cast<Bits>(small); }
-
-private:
-    using Bits = std::conditional_t<sizeof(T) == 4, Zor32u, Zor64u>;
-    static constexpr T small = sizeof(T) == 4 ? T(0x1p-100) : T(0x1p-970);
-
-    Bits least_ = ~Bits{0};
-};
-
-// One sample, without a look at the caller's arithmetic, which would take longer than the sample, as long as denormals
-// are not near.
+// One sample, with denormals as the caller has them: to look at his arithmetic would take longer than the sample.
 template <class E>
 [[gnu::always_inline]] inline E filterOne(IirRecord<E>& r, E x)
 {
-    Quietness<Lane<E>> quietness;
-    const auto y = nextOf(
-        r, x, [&](E v) __attribute__((always_inline)) { quietness.see(v); });
-    r.isQuiet = quietness.isNear();
-    return y;
+    Quietness quietness;
+    x = r.structure == Structure::anyOrder ? nextOfAnyOrder(r, x, quietness) : nextOfCascade(r, x, quietness);
+    r.isQuiet = quietness.isNear<Lane<E>>();
+    return x;
+}
+
+// Samples too few to be worth taking taps and numbers into registers. Not in direct form 1.
+template <class E>
+void filterFew(IirRecord<E>& r, const E* pSrc, E* pDst, std::ptrdiff_t len)
+{
+    for (std::ptrdiff_t n = 0; n < len; ++n) pDst[n] = filterOne(r, pSrc[n]);
 }
 
 } // namespace zors::ZORS_VARIANT
