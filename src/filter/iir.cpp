@@ -23,19 +23,16 @@ void filter(const IirData<State>* pSrc, IirData<State>* pDst, int len, State* pS
     }
 }
 
-template <class State>
+template <bool isQuiet, class State>
 [[gnu::always_inline]] inline void filterSample(IirData<State> src, IirData<State>* pDst, State* pState,
                                                 int scaleFactor)
 {
     auto& r = iirRecordOf(pState);
-    if constexpr (KindOfIir<State>::converts) {
-        IirNumber<State> x;
-        loadNumbers(&src, &x, 1);
-        x = filterOne(r, x);
-        storeNumbers(&x, pDst, 1, scaleFactor);
-    } else {
-        *pDst = filterOne(r, src);
-    }
+    IirNumber<State> x, y;
+    loadNumbers(&src, &x, 1);
+    y = filterOne(r, x);
+    if constexpr (isQuiet) settle(r, x);
+    storeNumbers(&y, pDst, 1, scaleFactor);
 }
 
 // Where denormals may be near, or registers would have to be saved.
@@ -44,10 +41,10 @@ template <class State>
                                         int scaleFactor)
 {
     if (!iirRecordOf(pState).isQuiet) {
-        filterSample(src, pDst, pState, scaleFactor);
+        filterSample<false>(src, pDst, pState, scaleFactor);
     } else {
         const FlushedArithmetic arithmetic(iirRecordOf(pState).control);
-        filterSample(src, pDst, pState, scaleFactor);
+        filterSample<true>(src, pDst, pState, scaleFactor);
     }
     return zorStsOk;
 }
@@ -77,7 +74,7 @@ ZorStatus iirOne(IirData<State> src, IirData<State>* pDst, State* pState, Factor
     const auto& r = iirRecordOf(pState);
     if (KindOfIir<State>::converts || r.isQuiet || r.structure == Structure::anyOrder)
         return filterApart(src, pDst, pState, (0 + ... + scaleFactor));
-    filterSample(src, pDst, pState, (0 + ... + scaleFactor));
+    filterSample<false>(src, pDst, pState, (0 + ... + scaleFactor));
     return zorStsOk;
 }
 

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <cmath>
 
 namespace zors::ZORS_VARIANT {
 
@@ -137,8 +138,11 @@ template <class V, class T = ElementOf<V>>
     return y;
 }
 
-// Whether numbers are so small that products with them may be denormal, but not zero. Of double precision the upper
-// halves are enough.
+// Below this, products with numbers may be denormal.
+template <class T>
+inline constexpr T quiet = sizeof(T) == 4 ? static_cast<T>(0x1p-100) : static_cast<T>(0x1p-970);
+
+// Whether some of the numbers shown are quiet, but not zero. Of double precision the upper halves are enough.
 class Quietness {
 public:
     template <class V>
@@ -150,13 +154,16 @@ public:
         least_ = magnitude < least_ ? magnitude : least_;
     }
 
-    template <class T>
+    // Of numbers of this type, each part of a complex one.
+    template <class E>
     bool isNear() const
     {
+        using T = Lane<E>;
         constexpr bool isFloat = sizeof(T) == 4;
-        constexpr Zor32u small = isFloat ? std::bit_cast<Zor32u>(0x1p-100F)
-                                         : static_cast<Zor32u>(std::bit_cast<Zor64u>(0x1p-970) >> 32);
-        return least_[isFloat ? 0 : 1] < static_cast<Zor32s>(2 * small + bias);
+        constexpr auto bits = std::bit_cast<std::conditional_t<isFloat, Zor32u, Zor64u>>(quiet<T>);
+        constexpr Zor32u small = static_cast<Zor32u>(isFloat ? bits : bits >> 32);
+        constexpr auto most = static_cast<Zor32s>(2 * small + bias);
+        return least_[isFloat ? 0 : 1] < most || (LaneOf<E>::each > 1 && least_[isFloat ? 1 : 3] < most);
     }
 
 private:
@@ -227,8 +234,24 @@ template <class E>
 {
     Quietness quietness;
     x = r.structure == Structure::anyOrder ? nextOfAnyOrder(r, x, quietness) : nextOfCascade(r, x, quietness);
-    r.isQuiet = quietness.isNear<Lane<E>>();
+    r.isQuiet = quietness.isNear<E>();
     return x;
+}
+
+// What a filter without input feeds back may decay until it is rounded to itself again, and never be zero: from the
+// first section on it comes to rest instead where all numbers are quiet.
+template <class E>
+void settle(IirRecord<E>& r, E x)
+{
+    if (*asLanes(&x) != 0 || asLanes(&x)[LaneOf<E>::each - 1] != 0) return;
+    const std::ptrdiff_t together = r.structure == Structure::anyOrder ? r.count : 2;
+    for (std::ptrdiff_t i = 0; i < r.delayLen; i += together) {
+        auto* numbers = asLanes(r.delay + i);
+        const auto count = laneCount<E>(together);
+        if (!std::all_of(numbers, numbers + count, [](auto v) { return std::abs(v) < quiet<Lane<E>>; }))
+            return;
+        std::fill_n(numbers, count, Lane<E>{});
+    }
 }
 
 // Samples too few to be worth taking taps and numbers into registers. Not in direct form 1.
