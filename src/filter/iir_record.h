@@ -51,6 +51,12 @@ ZorStatus iirContext(const State* p, bool directForm1 = true)
 // Samples that are filtered at a time.
 inline constexpr int iirChunk = 1024;
 
+// What a section of a cascade keeps.
+constexpr int numbersOfSection(Structure structure)
+{
+    return structure == Structure::directForm1 ? 4 : 2;
+}
+
 // What a filter is made of.
 struct IirDesign {
     Structure structure;
@@ -63,12 +69,11 @@ struct IirDesign {
     std::int64_t normalised() const { return isCascade() ? std::int64_t{5} * count : taps() - 1; }
     std::int64_t delays() const
     {
-        return std::int64_t{count} * (structure == Structure::anyOrder ? 1
-                                      : structure == Structure::biQuad ? 2
-                                                                       : 4);
+        return std::int64_t{count} * (isCascade() ? numbersOfSection(structure) : 1);
     }
     std::int64_t tableRoom() const
     {
+        if (structure == Structure::directForm1) return iirChunk + std::int64_t{296} * count;
         return iirChunk + (isCascade() ? std::int64_t{40} * count : std::int64_t{8} * count + 16);
     }
 };

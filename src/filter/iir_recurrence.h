@@ -25,7 +25,7 @@ template <class E>
 
 // What is known when this is compiled stays in registers.
 template <int Order, class E>
-void filterOrder(IirRecord<E>& r, const E* pSrc, E* pDst, std::ptrdiff_t len)
+void filterKnownOrder(IirRecord<E>& r, const E* pSrc, E* pDst, std::ptrdiff_t len)
 {
     E taps[2 * Order + 1], delay[Order + 1];
     std::copy_n(r.taps, 2 * Order + 1, taps);
@@ -43,7 +43,7 @@ void filterAnyOrder(IirRecord<E>& r, const E* pSrc, E* pDst, std::ptrdiff_t len)
         return;
     }
     const auto ifSo = [&](auto order) {
-        if (r.count == order) filterOrder<order>(r, pSrc, pDst, len);
+        if (r.count == order) filterKnownOrder<order>(r, pSrc, pDst, len);
     };
     [=]<int... I>(std::integer_sequence<int, I...>)
     {
@@ -97,23 +97,38 @@ void filterDirectForm1(const E* h, E* delay, const E* pSrc, E* pDst, std::ptrdif
     delay[3] = y2;
 }
 
+template <Structure structure, int Sections, class E>
+void filterSome(const E* taps, E* delay, const E* pSrc, E* pDst, std::ptrdiff_t len)
+{
+    if constexpr (structure == Structure::biQuad)
+        return filterSections<Sections>(taps, delay, pSrc, pDst, len);
+    else
+        for (int s = 0; s < Sections; ++s, pSrc = pDst)
+            filterDirectForm1(taps + 5 * s, delay + 4 * s, pSrc, pDst, len);
+}
+
+inline constexpr int mostSections = 4;
+
+// Calls run with the number of some sections.
+template <class Run>
+void withSections(std::ptrdiff_t sections, Run run)
+{
+    if (sections == 1) return run(std::integral_constant<int, 1>{});
+    if (sections == 2) return run(std::integral_constant<int, 2>{});
+    if (sections == 3) return run(std::integral_constant<int, 3>{});
+    run(std::integral_constant<int, mostSections>{});
+}
+
 // A chunk, by the sections from one on: the first ones from the source, the others in place.
-template <class E>
+template <Structure structure, class E>
 void filterCascade(IirRecord<E>& r, std::ptrdiff_t s, const E* pSrc, E* pDst, std::ptrdiff_t len)
 {
-    constexpr int most = 4;
     for (std::ptrdiff_t some; s < r.count; s += some, pSrc = pDst) {
-        const E* taps = r.taps + 5 * s;
-        E* delay = r.delay + 2 * s;
-        some = std::min<std::ptrdiff_t>(most, r.count - s);
-        if (some == 1)
-            filterSections<1>(taps, delay, pSrc, pDst, len);
-        else if (some == 2)
-            filterSections<2>(taps, delay, pSrc, pDst, len);
-        else if (some == 3)
-            filterSections<3>(taps, delay, pSrc, pDst, len);
-        else
-            filterSections<most>(taps, delay, pSrc, pDst, len);
+        some = std::min<std::ptrdiff_t>(mostSections, r.count - s);
+        withSections(some, [&](auto sections) {
+            filterSome<structure, sections>(r.taps + 5 * s, r.delay + numbersOfSection(structure) * s, pSrc,
+                                            pDst, len);
+        });
     }
 }
 

@@ -174,20 +174,7 @@ void fillStep(E* table, Respond respond)
     }
 }
 
-// So many sections make one step together.
-inline constexpr int sectionsOfStep = 4;
-
-// Calls run with the number of numbers of some sections.
-template <class Run>
-void withSections(std::ptrdiff_t sections, Run run)
-{
-    if (sections == 1) return run(std::integral_constant<int, 2>{});
-    if (sections == 2) return run(std::integral_constant<int, 4>{});
-    if (sections == 3) return run(std::integral_constant<int, 6>{});
-    run(std::integral_constant<int, 2 * sectionsOfStep>{});
-}
-
-// The same with that of one section of any order, where there is a table of that: orders are rounded up.
+// Calls run with the order that there is a table of: it is rounded up.
 template <class Run>
 void withOrder(int order, Run run)
 {
@@ -198,8 +185,9 @@ void withOrder(int order, Run run)
 
 inline constexpr int highestOrderOfStep = 16;
 
-template <class E>
-inline constexpr int stepOfSections = Step<E, 2 * sectionsOfStep>::tableLength;
+// So many sections make one step together.
+template <Structure structure, class E>
+inline constexpr int stepOfSections = Step<E, numbersOfSection(structure) * mostSections>::tableLength;
 
 // Tables begin with a cache line, or most loads would span two.
 inline constexpr int tableAlignment = 64;
@@ -213,19 +201,66 @@ E* tablesOf(const IirRecord<E>& r)
 }
 
 // Sections from the first on that there are tables for.
-template <class E>
+template <Structure structure, class E>
 std::ptrdiff_t sectionsWithTables(const IirRecord<E>& r)
 {
-    const IirDesign d{r.structure, r.count, false};
-    return std::min<std::ptrdiff_t>(r.count,
-                                    (d.tableRoom() - tableGap<E>) / stepOfSections<E> * sectionsOfStep);
+    const IirDesign d{structure, r.count, false};
+    const std::ptrdiff_t tables = (d.tableRoom() - tableGap<E>) / stepOfSections<structure, E>;
+    return std::min<std::ptrdiff_t>(r.count, tables * mostSections);
+}
+
+// Calls run with a table, the place of its first section, and how many sections it is for.
+template <Structure structure, class E, class Run>
+std::ptrdiff_t withTables(const IirRecord<E>& r, Run run)
+{
+    E* table = tablesOf(r);
+    const std::ptrdiff_t all = sectionsWithTables<structure>(r);
+    for (std::ptrdiff_t s = 0; s < all; s += mostSections, table += stepOfSections<structure, E>)
+        withSections(all - s, [&](auto sections) { run(table, s, sections); });
+    return all;
 }
 
 template <class E>
 bool hasSteps(const IirRecord<E>& r)
 {
-    if (r.structure == Structure::anyOrder) return r.count >= 1 && r.count <= highestOrderOfStep;
-    return r.structure == Structure::biQuad;
+    return r.structure != Structure::anyOrder || (r.count >= 1 && r.count <= highestOrderOfStep);
+}
+
+template <Structure structure, class E>
+void fillSections(IirRecord<E>& r)
+{
+    withTables<structure>(r, [&](E* table, std::ptrdiff_t s, auto sections) {
+        Wide<E> taps[5 * sections];
+        std::transform(r.taps + 5 * s, r.taps + 5 * (s + sections), taps, rounded<Wide<E>, E>);
+        fillStep<E, numbersOfSection(structure) * sections>(table, [&](Wide<E>* delay, Wide<E>* samples) {
+            filterSome<structure, sections>(taps, delay, samples, samples, stepLength<E>);
+        });
+    });
+}
+
+template <class E>
+void fillOrder(IirRecord<E>& r)
+{
+    Wide<E> taps[2 * highestOrderOfStep + 1];
+    std::transform(r.taps, r.taps + 2 * r.count + 1, taps, rounded<Wide<E>, E>);
+    withOrder(r.count, [&](auto states) {
+        fillStep<E, states>(tablesOf(r), [&](Wide<E>* delay, Wide<E>* samples) {
+            std::fill(delay + r.count, delay + states, Wide<E>{});
+            for (int n = 0; n < stepLength<E>; ++n)
+                samples[n] = nextOfOrder(taps, delay, r.count, samples[n]);
+        });
+    });
+}
+
+// Of the structures, direct form 1 is only there in single precision.
+template <class E, class Order, class Sections>
+void byStructure(const IirRecord<E>& r, Order order, Sections sections)
+{
+    if (r.structure == Structure::anyOrder) return order();
+    if constexpr (std::is_same_v<E, Zor32f>)
+        if (r.structure == Structure::directForm1)
+            return sections(std::integral_constant<Structure, Structure::directForm1>{});
+    sections(std::integral_constant<Structure, Structure::biQuad>{});
 }
 
 // The tables of a record, from its taps.
@@ -233,31 +268,8 @@ template <class E>
 void fillSteps(IirRecord<E>& r)
 {
     if (!hasSteps(r)) return;
-    if (r.structure == Structure::anyOrder) {
-        Wide<E> taps[2 * highestOrderOfStep + 1];
-        std::transform(r.taps, r.taps + 2 * r.count + 1, taps, rounded<Wide<E>, E>);
-        withOrder(r.count, [&](auto states) {
-            fillStep<E, states>(tablesOf(r), [&](Wide<E>* delay, Wide<E>* samples) {
-                std::fill(delay + r.count, delay + states, Wide<E>{});
-                for (int n = 0; n < stepLength<E>; ++n)
-                    samples[n] = nextOfOrder(taps, delay, r.count, samples[n]);
-            });
-        });
-        return;
-    }
-    E* table = tablesOf(r);
-    const std::ptrdiff_t all = sectionsWithTables(r);
-    for (std::ptrdiff_t s = 0; s < all; s += sectionsOfStep, table += stepOfSections<E>) {
-        const auto some = std::min<std::ptrdiff_t>(sectionsOfStep, all - s);
-        Wide<E> taps[5 * sectionsOfStep];
-        std::transform(r.taps + 5 * s, r.taps + 5 * (s + some), taps, rounded<Wide<E>, E>);
-        withSections(some, [&](auto states) {
-            fillStep<E, states>(table, [&](Wide<E>* delay, Wide<E>* samples) {
-                for (int i = 0; i < states / 2; ++i)
-                    filterSections<1>(taps + 5 * i, delay + 2 * i, samples, samples, stepLength<E>);
-            });
-        });
-    }
+    byStructure(
+        r, [&] { fillOrder(r); }, [&](auto structure) { fillSections<structure>(r); });
 }
 
 // Steps, as far as they go, and the rest sample by sample. A step that is refused goes sample by sample, too.
@@ -273,55 +285,60 @@ void filterBySteps(std::ptrdiff_t len, Steps steps, Samples samples)
 }
 
 template <class E>
-void filterAhead(IirRecord<E>& r, const E* pSrc, E* pDst, std::ptrdiff_t len)
+void filterOrderAhead(IirRecord<E>& r, const E* pSrc, E* pDst, std::ptrdiff_t len)
 {
-    const E* table = tablesOf(r);
-    if (r.structure == Structure::anyOrder) {
-        E delay[highestOrderOfStep] = {};
-        withOrder(r.count, [&](auto states) {
-            filterBySteps<E>(
-                len,
-                [&](std::ptrdiff_t n) {
-                    std::copy_n(r.delay, r.count, delay);
-                    n = Step<E, states>::filter(table, delay, pSrc + n, pDst + n, len - n);
-                    std::copy_n(delay, r.count, r.delay);
-                    return n;
-                },
-                [&](std::ptrdiff_t n, std::ptrdiff_t some) { filterAnyOrder(r, pSrc + n, pDst + n, some); });
-        });
-        return;
-    }
-    const std::ptrdiff_t all = sectionsWithTables(r);
-    std::ptrdiff_t s = 0;
-    for (; s < all; s += sectionsOfStep, table += stepOfSections<E>, pSrc = pDst) {
-        const auto some = std::min<std::ptrdiff_t>(sectionsOfStep, all - s);
-        E* delay = r.delay + 2 * s;
-        withSections(some, [&](auto states) {
-            filterBySteps<E>(
-                len,
-                [&](std::ptrdiff_t n) {
-                    return Step<E, states>::filter(table, delay, pSrc + n, pDst + n, len - n);
-                },
-                [&](std::ptrdiff_t n, std::ptrdiff_t count) {
-                    filterSections<states / 2>(r.taps + 5 * s, delay, pSrc + n, pDst + n, count);
-                });
-        });
-    }
-    filterCascade(r, s, pSrc, pDst, len);
+    E delay[highestOrderOfStep] = {};
+    withOrder(r.count, [&](auto states) {
+        filterBySteps<E>(
+            len,
+            [&](std::ptrdiff_t n) {
+                std::copy_n(r.delay, r.count, delay);
+                n = Step<E, states>::filter(tablesOf(r), delay, pSrc + n, pDst + n, len - n);
+                std::copy_n(delay, r.count, r.delay);
+                return n;
+            },
+            [&](std::ptrdiff_t n, std::ptrdiff_t some) { filterAnyOrder(r, pSrc + n, pDst + n, some); });
+    });
+}
+
+template <Structure structure, class E>
+void filterSectionsAhead(IirRecord<E>& r, const E* pSrc, E* pDst, std::ptrdiff_t len)
+{
+    constexpr int each = numbersOfSection(structure);
+    const std::ptrdiff_t done = withTables<structure>(r, [&](const E* table, std::ptrdiff_t s,
+                                                             auto sections) {
+        E* delay = r.delay + each * s;
+        filterBySteps<E>(
+            len,
+            [&](std::ptrdiff_t n) {
+                const auto count =
+                    Step<E, each * sections>::filter(table, delay, pSrc + n, pDst + n, len - n);
+                // In direct form 1 the last numbers are the last outputs, and have their bits.
+                if (structure == Structure::directForm1 && count > 0)
+                    std::reverse_copy(pDst + n + count - 2, pDst + n + count, delay + each * sections - 2);
+                return count;
+            },
+            [&](std::ptrdiff_t n, std::ptrdiff_t count) {
+                filterSome<structure, sections>(r.taps + 5 * s, delay, pSrc + n, pDst + n, count);
+            });
+        pSrc = pDst;
+    });
+    filterCascade<structure>(r, done, pSrc, pDst, len);
 }
 
 // A chunk, by steps where there are any.
 template <class E>
 void filterChunk(IirRecord<E>& r, const E* pSrc, E* pDst, std::ptrdiff_t len)
 {
-    if (len >= stepLength<E> && hasSteps(r)) return filterAhead(r, pSrc, pDst, len);
+    const bool isLong = len >= stepLength<E> && hasSteps(r);
     constexpr int few = 4;
     if (len < few && r.structure != Structure::directForm1) return filterFew(r, pSrc, pDst, len);
-    if (r.structure == Structure::anyOrder) return filterAnyOrder(r, pSrc, pDst, len);
-    if (r.structure == Structure::biQuad) return filterCascade(r, 0, pSrc, pDst, len);
-    if constexpr (std::is_same_v<E, Zor32f>)
-        for (std::ptrdiff_t s = 0; s < r.count; ++s, pSrc = pDst)
-            filterDirectForm1(r.taps + 5 * s, r.delay + 4 * s, pSrc, pDst, len);
+    byStructure(
+        r, [&] { isLong ? filterOrderAhead(r, pSrc, pDst, len) : filterAnyOrder(r, pSrc, pDst, len); },
+        [&](auto structure) {
+            isLong ? filterSectionsAhead<structure>(r, pSrc, pDst, len)
+                   : filterCascade<structure>(r, 0, pSrc, pDst, len);
+        });
 }
 
 } // namespace zors::ZORS_VARIANT
