@@ -133,13 +133,14 @@ private:
         for (int p = 1; p < outputs; ++p) probe += y[p] - y[p];
         if (!isFinite(probe)) return false;
         for (int p = 0; p < outputs; ++p) store<width>(pDst + p * width, y[p]);
+        auto& next = sum.next;
         for (int q = 0; q < states; ++q) {
             for (int part = 0; part < each; ++part) {
-                auto& last = others[chains - 2][q][part];
-                if constexpr (chains == 4) last += others[0][q][part] + others[1][q][part];
-                sum.next[q][part] += last;
+                auto& all = next[q][part];
+                all += others[0][q][part];
+                if constexpr (chains == 4) all += others[1][q][part] + others[2][q][part];
             }
-            store<stateWidth>(found + q * stateWidth, joined(sum.next[q]));
+            store<stateWidth>(found + q * stateWidth, joined(next[q]));
         }
         return true;
     }
