@@ -43,7 +43,7 @@ template <class State>
     if (!iirRecordOf(pState).isQuiet) {
         filterSample<false>(src, pDst, pState, scaleFactor);
     } else {
-        const FlushedArithmetic arithmetic(iirRecordOf(pState).control);
+        const FlushedArithmetic arithmetic;
         filterSample<true>(src, pDst, pState, scaleFactor);
     }
     return zorStsOk;
@@ -55,7 +55,7 @@ ZorStatus iir(const IirData<State>* pSrc, IirData<State>* pDst, int len, State* 
 {
     if (const ZorStatus bad = check(pointers(pSrc, pDst, pState), length(len))) return bad;
     if (const ZorStatus bad = iirContext(pState)) return bad;
-    const FlushedArithmetic arithmetic(iirRecordOf(pState).control);
+    const FlushedArithmetic arithmetic;
     filter(pSrc, pDst, len, pState, (0 + ... + scaleFactor));
     return zorStsOk;
 }
@@ -91,7 +91,7 @@ ZorStatus iirChannels(Source* const* ppSrc, IirData<State>* const* ppDst, int le
         if (const ZorStatus bad = pointers(ppSrc[c], ppDst[c], ppState[c])) return bad;
         if (const ZorStatus bad = iirContext(ppState[c])) return bad;
     }
-    const FlushedArithmetic arithmetic(iirRecordOf(ppState[0]).control);
+    const FlushedArithmetic arithmetic;
     for (int c = 0; c < nChannels; ++c)
         filter<State>(ppSrc[c], ppDst[c], len, ppState[c], (0 + ... + scaleFactor));
     return zorStsOk;

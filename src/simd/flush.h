@@ -9,18 +9,10 @@ namespace zors::ZORS_VARIANT {
 // While it lives, denormal numbers count as zeros and results that would be denormal are zeros, and arithmetic rounds
 // to nearest; afterwards the caller's word is as it was. What a filter feeds back decays into denormals, which take
 // some processors a hundred times as long.
-//
-// The word, which has the exceptions met so far, is known when all arithmetic before is done. A guess at it, the word of
-// the last time, lets the processor go on before and after: what is compared with the guess is not what is waited for.
 class FlushedArithmetic {
 public:
-    explicit FlushedArithmetic(unsigned& guess) : callers_(guess)
+    FlushedArithmetic() : callers_(_mm_getcsr())
     {
-        hold();
-        if (const unsigned known = _mm_getcsr(); known != callers_) [[unlikely]]
-            guess = callers_ = known;
-        else
-            forget();
         _mm_setcsr(flushed);
         hold();
     }
@@ -39,9 +31,6 @@ private:
 
     // No access to memory is moved across.
     static void hold() { __asm__ volatile("" ::: "memory"); }
-
-    // That both words are the same, or a compiler would take the one that was waited for.
-    void forget() { __asm__ volatile("" : "+r"(callers_)); }
 
     unsigned callers_;
 };

@@ -6,7 +6,7 @@ namespace zors::test {
 namespace {
 
 constexpr ZorStatus null = zorStsNullPointer, length = zorStsBadFirLength, factor = zorStsBadMultiRateFactor,
-                    phase = zorStsBadMultiRatePhase, wrong = zorStsWrongContext, size_ = zorStsBadSize;
+                    phase = zorStsBadMultiRatePhase, wrong = zorStsWrongContext;
 
 TEST(Statuses, OfMakingSingleRateRecords)
 {
