@@ -64,8 +64,9 @@ private:
     };
 
     // Steps whose samples meet each column together: as many as leave registers over.
-    static constexpr int sums = (outputs + states) * each, registers = ZORS_VECTOR_BYTES == 64 ? 32 : 16;
-    static constexpr int together = 2 * sums <= registers / 2 ? 2 : 1;
+    static constexpr int sumsOfStep = (outputs + states) * each,
+                         registers = ZORS_VECTOR_BYTES == 64 ? 32 : 16;
+    static constexpr int together = 2 * sumsOfStep <= registers / 2 ? 2 : 1;
     // Sums that the numbers of a filter take turns at, for none has to wait for many.
     static constexpr int chains = States >= 8 && (outputs + 4 * states) * each <= registers - 4 ? 4 : 2;
 
