@@ -23,6 +23,32 @@ void filter(const IirData<State>* pSrc, IirData<State>* pDst, int len, State* pS
     }
 }
 
+template <bool isQuiet, class State>
+[[gnu::always_inline]] inline void filterSample(IirData<State> src, IirData<State>* pDst, State* pState,
+                                                int scaleFactor)
+{
+    auto& r = iirRecordOf(pState);
+    IirNumber<State> x, y;
+    loadNumbers(&src, &x, 1);
+    y = filterOne(r, x);
+    if constexpr (isQuiet) settle(r, x);
+    storeNumbers(&y, pDst, 1, scaleFactor);
+}
+
+// Where denormals may be near, or registers would have to be saved.
+template <class State>
+[[gnu::noinline]] ZorStatus filterApart(IirData<State> src, IirData<State>* pDst, State* pState,
+                                        int scaleFactor)
+{
+    if (!iirRecordOf(pState).isQuiet) {
+        filterSample<false>(src, pDst, pState, scaleFactor);
+    } else {
+        const FlushedArithmetic arithmetic;
+        filterSample<true>(src, pDst, pState, scaleFactor);
+    }
+    return zorStsOk;
+}
+
 // Only integer data have a scale factor.
 template <class State, class... Factor>
 ZorStatus iir(const IirData<State>* pSrc, IirData<State>* pDst, int len, State* pState, Factor... scaleFactor)
@@ -45,7 +71,10 @@ ZorStatus iirOne(IirData<State> src, IirData<State>* pDst, State* pState, Factor
 {
     if (const ZorStatus bad = check(pointers(pDst, pState))) return bad;
     if (const ZorStatus bad = iirContext(pState, false)) return bad;
-    filter(&src, pDst, 1, pState, (0 + ... + scaleFactor));
+    const auto& r = iirRecordOf(pState);
+    if (KindOfIir<State>::converts || r.isQuiet || r.structure == Structure::anyOrder)
+        return filterApart(src, pDst, pState, (0 + ... + scaleFactor));
+    filterSample<false>(src, pDst, pState, (0 + ... + scaleFactor));
     return zorStsOk;
 }
 

@@ -1,18 +1,11 @@
 // What tells the records of recursive filters apart: the types of data and of the arithmetic, and the tags.
 #pragma once
 
-#include <zortypes.h>
+#include "tag.h"
 
 #include <type_traits>
 
 namespace zors::ZORS_VARIANT {
-
-// Two letters and two digits, the first letter in the highest byte.
-constexpr Zor32u iirTag(int number)
-{
-    const auto digit = [](int d) { return static_cast<Zor32u>('0' + d); };
-    return Zor32u{'I'} << 24 | Zor32u{'I'} << 16 | digit(number / 10) << 8 | digit(number % 10);
-}
 
 enum class Structure : Zor32s { anyOrder, biQuad, directForm1 };
 
@@ -22,9 +15,9 @@ struct IirKind {
     using Number = E; // in which the filter computes
     static constexpr bool converts = !std::is_same_v<D, E>;
     // 0 where there is no record of a structure.
-    static constexpr Zor32u anyOrder = AnyOrder ? iirTag(AnyOrder) : 0;
-    static constexpr Zor32u biQuad = BiQuad ? iirTag(BiQuad) : 0;
-    static constexpr Zor32u directForm1 = DirectForm1 ? iirTag(DirectForm1) : 0;
+    static constexpr Zor32u anyOrder = AnyOrder ? filterTag('I', AnyOrder) : 0;
+    static constexpr Zor32u biQuad = BiQuad ? filterTag('I', BiQuad) : 0;
+    static constexpr Zor32u directForm1 = DirectForm1 ? filterTag('I', DirectForm1) : 0;
 
     static constexpr Zor32u tag(Structure structure)
     {

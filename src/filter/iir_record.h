@@ -18,6 +18,7 @@ struct IirRecord {
     Zor32s count; // the order, or the number of sections
     Structure structure;
     Zor32s owned;
+    bool isQuiet; // the last single sample was so small that denormals are near
     E* tables;    // of steps of many samples
     E* converted; // a chunk of numbers, where the data are none
     void* memory; // that is released with an owned record
@@ -49,6 +50,12 @@ ZorStatus iirContext(const State* p, bool directForm1 = true)
 // Samples that are filtered at a time.
 inline constexpr int iirChunk = 1024;
 
+// What a section of a cascade keeps.
+constexpr int numbersOfSection(Structure structure)
+{
+    return structure == Structure::directForm1 ? 4 : 2;
+}
+
 // What a filter is made of.
 struct IirDesign {
     Structure structure;
@@ -61,12 +68,11 @@ struct IirDesign {
     std::int64_t normalised() const { return isCascade() ? std::int64_t{5} * count : taps() - 1; }
     std::int64_t delays() const
     {
-        return std::int64_t{count} * (structure == Structure::anyOrder ? 1
-                                      : structure == Structure::biQuad ? 2
-                                                                       : 4);
+        return std::int64_t{count} * (isCascade() ? numbersOfSection(structure) : 1);
     }
     std::int64_t tableRoom() const
     {
+        if (structure == Structure::directForm1) return iirChunk + std::int64_t{296} * count;
         return iirChunk + (isCascade() ? std::int64_t{40} * count : std::int64_t{8} * count + 16);
     }
 };

@@ -4,8 +4,12 @@
 
 #include "dot.h"
 #include "iir_record.h"
+#include "simd/memory.h"
+#include "simd/opaque.h"
 
 #include <algorithm>
+#include <bit>
+#include <cmath>
 
 namespace zors::ZORS_VARIANT {
 
@@ -21,7 +25,7 @@ template <class E>
 
 // What is known when this is compiled stays in registers.
 template <int Order, class E>
-void filterOrder(IirRecord<E>& r, const E* pSrc, E* pDst, std::ptrdiff_t len)
+void filterKnownOrder(IirRecord<E>& r, const E* pSrc, E* pDst, std::ptrdiff_t len)
 {
     E taps[2 * Order + 1], delay[Order + 1];
     std::copy_n(r.taps, 2 * Order + 1, taps);
@@ -39,7 +43,7 @@ void filterAnyOrder(IirRecord<E>& r, const E* pSrc, E* pDst, std::ptrdiff_t len)
         return;
     }
     const auto ifSo = [&](auto order) {
-        if (r.count == order) filterOrder<order>(r, pSrc, pDst, len);
+        if (r.count == order) filterKnownOrder<order>(r, pSrc, pDst, len);
     };
     [=]<int... I>(std::integer_sequence<int, I...>)
     {
@@ -93,23 +97,175 @@ void filterDirectForm1(const E* h, E* delay, const E* pSrc, E* pDst, std::ptrdif
     delay[3] = y2;
 }
 
+template <Structure structure, int Sections, class E>
+void filterSome(const E* taps, E* delay, const E* pSrc, E* pDst, std::ptrdiff_t len)
+{
+    if constexpr (structure == Structure::biQuad)
+        return filterSections<Sections>(taps, delay, pSrc, pDst, len);
+    else
+        for (int s = 0; s < Sections; ++s, pSrc = pDst)
+            filterDirectForm1(taps + 5 * s, delay + 4 * s, pSrc, pDst, len);
+}
+
+inline constexpr int mostSections = 4;
+
+// Calls run with the number of some sections.
+template <class Run>
+void withSections(std::ptrdiff_t sections, Run run)
+{
+    if (sections == 1) return run(std::integral_constant<int, 1>{});
+    if (sections == 2) return run(std::integral_constant<int, 2>{});
+    if (sections == 3) return run(std::integral_constant<int, 3>{});
+    run(std::integral_constant<int, mostSections>{});
+}
+
 // A chunk, by the sections from one on: the first ones from the source, the others in place.
-template <class E>
+template <Structure structure, class E>
 void filterCascade(IirRecord<E>& r, std::ptrdiff_t s, const E* pSrc, E* pDst, std::ptrdiff_t len)
 {
-    constexpr int most = 4;
     for (std::ptrdiff_t some; s < r.count; s += some, pSrc = pDst) {
-        const E* taps = r.taps + 5 * s;
-        E* delay = r.delay + 2 * s;
-        some = std::min<std::ptrdiff_t>(most, r.count - s);
-        if (some == 1)
-            filterSections<1>(taps, delay, pSrc, pDst, len);
-        else if (some == 2)
-            filterSections<2>(taps, delay, pSrc, pDst, len);
-        else if (some == 3)
-            filterSections<3>(taps, delay, pSrc, pDst, len);
-        else
-            filterSections<most>(taps, delay, pSrc, pDst, len);
+        some = std::min<std::ptrdiff_t>(mostSections, r.count - s);
+        withSections(some, [&](auto sections) {
+            filterSome<structure, sections>(r.taps + 5 * s, r.delay + numbersOfSection(structure) * s, pSrc,
+                                            pDst, len);
+        });
+    }
+}
+
+// Two neighbours, and zeros.
+template <class T>
+[[gnu::always_inline]] inline auto loadBoth(const T* p)
+{
+    if constexpr (sizeof(T) == 8)
+        return load<2>(p);
+    else
+        return (Vec<T, 4>)Vec<Zor64f, 2>{std::bit_cast<Zor64f>(load<2>(p))};
+}
+
+// The same of real numbers in memory, both at once, for a sample in all lanes: what is fed back is in the first two.
+// Nothing is loaded that spans what was stored just before.
+template <class V, class T = ElementOf<V>>
+[[gnu::always_inline]] inline V nextOfPair(const T* taps, T* delay, V x)
+{
+    const V y = mulAdd(splat<T, lanesOf<V>>(taps[0]), x, splat<T, lanesOf<V>>(delay[0]));
+    const V next = mulAdd(loadBoth(taps + 3), y, mulAdd(loadBoth(taps + 1), x, V{delay[1]}));
+    __builtin_memcpy(delay, &next, 2 * sizeof(T));
+    return y;
+}
+
+// Below this, products with numbers may be denormal.
+template <class T>
+inline constexpr T quiet = sizeof(T) == 4 ? static_cast<T>(0x1p-100) : static_cast<T>(0x1p-970);
+
+// Whether some of the numbers shown are quiet, but not zero. Of double precision the upper halves are enough.
+class Quietness {
+public:
+    template <class V>
+    [[gnu::always_inline]] void see(V x)
+    {
+        // The magnitude, less one, so that zero is the largest, and as much as makes it a signed number.
+        const auto bits = (Vec<Zor32u, 4>)x;
+        const auto magnitude = (Words)(bits + bits + bias);
+        least_ = magnitude < least_ ? magnitude : least_;
+    }
+
+    // Of numbers of this type, each part of a complex one.
+    template <class E>
+    bool isNear() const
+    {
+        using T = Lane<E>;
+        constexpr bool isFloat = sizeof(T) == 4;
+        constexpr auto bits = std::bit_cast<std::conditional_t<isFloat, Zor32u, Zor64u>>(quiet<T>);
+        constexpr Zor32u small = static_cast<Zor32u>(isFloat ? bits : bits >> 32);
+        constexpr auto most = static_cast<Zor32s>(2 * small + bias);
+        return least_[isFloat ? 0 : 1] < most || (LaneOf<E>::each > 1 && least_[isFloat ? 1 : 3] < most);
+    }
+
+private:
+    using Words = Vec<Zor32s, 4>;
+    static constexpr Zor32u bias = 0x7fffffff;
+
+    Words least_ = Words{} + INT32_MAX;
+};
+
+// A number in all lanes of a short vector; of a complex one both parts alternate.
+template <class E>
+[[gnu::always_inline]] inline auto repeatedly(E x)
+{
+    if constexpr (LaneOf<E>::each == 1)
+        return splat<E, 16 / sizeof(E)>(x);
+    else if constexpr (sizeof(E) == 16)
+        return Vec<Zor64f, 2>{x.re, x.im};
+    else
+        return Vec<Zor32f, 4>{x.re, x.im, x.re, x.im};
+}
+
+// The next sample, by taps and numbers where they lie. Not in direct form 1.
+template <class E>
+[[gnu::always_inline]] inline E nextOfCascade(const IirRecord<E>& r, E x, Quietness& quietness)
+{
+    const E* taps = r.taps;
+    E* delay = r.delay;
+    auto all = repeatedly(x);
+    quietness.see(all);
+    const auto next = [&](std::ptrdiff_t s) __attribute__((always_inline))
+    {
+        if constexpr (LaneOf<E>::each == 1) {
+            all = nextOfPair(taps + 5 * s, delay + 2 * s, all);
+        } else {
+            x = nextOfSection(taps + 5 * s, delay + 2 * s, x);
+            all = repeatedly(x);
+        }
+        quietness.see(all);
+    };
+    // Opaque, or compilers find where each would end, all before the first sample.
+    int left = r.count;
+    for (; left >= 4; left = opaque(left - 4), taps = opaque(taps + 20), delay = opaque(delay + 8)) {
+        next(0);
+        next(1);
+        next(2);
+        next(3);
+    }
+    for (; left > 0; left = opaque(left - 1), taps = opaque(taps + 5), delay = opaque(delay + 2)) next(0);
+    if constexpr (LaneOf<E>::each == 1)
+        return all[0];
+    else
+        return x;
+}
+
+// The next sample of one section.
+template <class E>
+E nextOfAnyOrder(const IirRecord<E>& r, E x, Quietness& quietness)
+{
+    quietness.see(repeatedly(x));
+    x = nextOfOrder(r.taps, r.delay, r.count, x);
+    quietness.see(repeatedly(x));
+    return x;
+}
+
+// One sample, with denormals as the caller has them: to look at his arithmetic would take longer than the sample.
+template <class E>
+[[gnu::always_inline]] inline E filterOne(IirRecord<E>& r, E x)
+{
+    Quietness quietness;
+    x = r.structure == Structure::anyOrder ? nextOfAnyOrder(r, x, quietness) : nextOfCascade(r, x, quietness);
+    r.isQuiet = quietness.isNear<E>();
+    return x;
+}
+
+// What a filter without input feeds back may decay until it is rounded to itself again, and never be zero: from the
+// first section on it comes to rest instead where all numbers are quiet.
+template <class E>
+void settle(IirRecord<E>& r, E x)
+{
+    if (*asLanes(&x) != 0 || asLanes(&x)[LaneOf<E>::each - 1] != 0) return;
+    const std::ptrdiff_t together = r.structure == Structure::anyOrder ? r.count : 2;
+    for (std::ptrdiff_t i = 0; i < r.delayLen; i += together) {
+        auto* numbers = asLanes(r.delay + i);
+        const auto count = laneCount<E>(together);
+        if (!std::all_of(numbers, numbers + count, [](auto v) { return std::abs(v) < quiet<Lane<E>>; }))
+            return;
+        std::fill_n(numbers, count, Lane<E>{});
     }
 }
 
@@ -117,15 +273,7 @@ void filterCascade(IirRecord<E>& r, std::ptrdiff_t s, const E* pSrc, E* pDst, st
 template <class E>
 void filterFew(IirRecord<E>& r, const E* pSrc, E* pDst, std::ptrdiff_t len)
 {
-    for (std::ptrdiff_t n = 0; n < len; ++n) {
-        E x = pSrc[n];
-        if (r.structure == Structure::anyOrder)
-            x = nextOfOrder(r.taps, r.delay, r.count, x);
-        else
-            for (std::ptrdiff_t s = 0; s < r.count; ++s)
-                x = nextOfSection(r.taps + 5 * s, r.delay + 2 * s, x);
-        pDst[n] = x;
-    }
+    for (std::ptrdiff_t n = 0; n < len; ++n) pDst[n] = filterOne(r, pSrc[n]);
 }
 
 } // namespace zors::ZORS_VARIANT

@@ -1,9 +1,10 @@
-// Recursive filters sixteen samples at a time. The outputs of a step and the numbers that it leaves for the next are
+// Recursive filters many samples at a time. The outputs of a step and the numbers that it leaves for the next are
 // linear in its samples and in the numbers that it finds: a table has, for each of these, its part in all of those.
-// So only the numbers of the filter wait for the step before, once for sixteen samples.
+// So only the numbers of the filter wait for the step before, once a step.
 #pragma once
 
 #include "iir_recurrence.h"
+#include "simd/complex.h"
 #include "simd/flush.h"
 #include "simd/fused.h"
 #include "simd/memory.h"
@@ -13,102 +14,169 @@
 
 namespace zors::ZORS_VARIANT {
 
-inline constexpr int stepLength = 16;
+// A complex step of as many samples would need more sums than there are registers.
+template <class E>
+inline constexpr int stepLength = LaneOf<E>::each == 1 ? 16 : 8;
 
-// Of a filter with so many numbers. A column has the outputs, then the numbers.
-template <class T, int States>
+// Of a filter with so many numbers. The table has the parts in the outputs, a column for each sample and each number,
+// and then those in the numbers, in columns of whole vectors.
+template <class E, int States>
 struct Step {
-    static constexpr int width = lanes<T> < stepLength ? lanes<T> : stepLength, outputs = stepLength / width;
-    static constexpr int narrowest = 16 / static_cast<int>(sizeof(T));
-    static constexpr int half = States <= narrowest       ? narrowest
-                                : States <= 2 * narrowest ? 2 * narrowest
-                                                          : 16;
-    static constexpr int stateWidth = half < width ? half : width;
-    static constexpr int states = (States + stateWidth - 1) / stateWidth;
-    static constexpr int rows = stepLength + states * stateWidth, columns = stepLength + States;
-    static constexpr int tableLength = rows * columns;
+    using T = Lane<E>;
+    static constexpr int each = LaneOf<E>::each, length = stepLength<E>, columns = length + States;
+    static constexpr int width = std::min(lanes<T>, length*each), outputs = length * each / width;
+    // No wider than it must be, where there are no parts to be exchanged.
+    static constexpr int fitting =
+        States * int{sizeof(T)} <= 16 ? 16 / int{sizeof(T)} : 2 * (16 / int{sizeof(T)});
+    static constexpr int stateWidth = each > 1 || States* int{sizeof(T)} > 32 ? width
+                                                                              : std::min(width, fitting);
+    static constexpr int states = (States * each + stateWidth - 1) / stateWidth;
+    static constexpr int outputLanes = outputs * width, stateLanes = states * stateWidth;
+    static constexpr int stateRows = stateLanes / each, tableLength = (length + stateRows) * columns;
 
     using Outputs = Vec<T, width>;
     using Numbers = Vec<T, stateWidth>;
 
     // Filters whole steps, and returns the number of their samples: all there are, or those before a step that has or
     // makes numbers that are not finite, which would spread to outputs that they do not belong to.
-    static std::ptrdiff_t filter(const T* table, T* delay, const T* pSrc, T* pDst, std::ptrdiff_t len)
+    static std::ptrdiff_t filter(const E* table, E* delay, const E* pSrc, E* pDst, std::ptrdiff_t len)
     {
-        T found[states * stateWidth] = {};
-        std::memcpy(found, delay, States * sizeof(T));
+        alignas(64) T found[stateLanes] = {};
+        std::memcpy(found, delay, States * sizeof(E));
         std::ptrdiff_t n = 0;
-        for (; n + stepLength <= len; n += stepLength)
-            if (!step(table, found, pSrc + n, pDst + n)) break;
-        std::memcpy(delay, found, States * sizeof(T));
+        while (n + together * length <= len) {
+            const int done = steps<together>(asLanes(table), found, asLanes(pSrc + n), asLanes(pDst + n));
+            n += done * length;
+            if (done < together) break;
+        }
+        if constexpr (together > 1)
+            for (; n + length <= len; n += length)
+                if (steps<1>(asLanes(table), found, asLanes(pSrc + n), asLanes(pDst + n)) == 0) break;
+        std::memcpy(static_cast<void*>(delay), found, States * sizeof(E));
         return n;
     }
 
 private:
-    [[gnu::always_inline]] static bool step(const T* table, T* found, const T* pSrc, T* pDst)
+    // Sums by the parts of the factors.
+    struct Sums {
+        Outputs y[outputs][each] = {};
+        Numbers next[states][each] = {};
+    };
+
+    // Steps whose samples meet each column together: as many as leave registers over.
+    static constexpr int sumsOfStep = (outputs + states) * each,
+                         registers = ZORS_VECTOR_BYTES == 64 ? 32 : 16;
+    static constexpr int together = 2 * sumsOfStep <= registers / 2 ? 2 : 1;
+    // Sums that the numbers of a filter take turns at, for none has to wait for many.
+    static constexpr int chains = States >= 8 && (outputs + 4 * states) * each <= registers - 4 ? 4 : 2;
+
+    // Of a sample or number, whose first output is the one given.
+    [[gnu::always_inline]] static void add(const T* table, int column, int firstOutput, const T* factor,
+                                           Outputs (&y)[outputs][each], Numbers (&next)[states][each])
     {
-        Outputs y[outputs] = {};
-        Numbers fromSamples[states] = {}, fromNumbers[states] = {};
-        const auto add = [&](const T* column, int first, T factor, Numbers(&to)[states])
-            __attribute__((always_inline))
-        {
+        for (int part = 0; part < each; ++part) {
+            const auto by = splat<T, width>(factor[part]);
             for (int p = 0; p < outputs; ++p)
-                if ((p + 1) * width > first)
-                    y[p] = mulAdd(load<width>(column + p * width), splat<T, width>(factor), y[p]);
+                if ((p + 1) * width > firstOutput * each)
+                    y[p][part] =
+                        mulAdd(load<width>(table + column * outputLanes + p * width), by, y[p][part]);
             for (int q = 0; q < states; ++q)
-                to[q] = mulAdd(load<stateWidth>(column + stepLength + q * stateWidth),
-                               splat<T, stateWidth>(factor), to[q]);
-        };
-        // Every index is a constant, so that the sums stay in registers.
+                next[q][part] = mulAdd(
+                    load<stateWidth>(table + columns * outputLanes + column * stateLanes + q * stateWidth),
+                    leading<stateWidth>(by), next[q][part]);
+        }
+    }
+
+    template <class V>
+    [[gnu::always_inline]] static V joined(const V (&parts)[each])
+    {
+        if constexpr (each == 1)
+            return parts[0];
+        else
+            return alternateSum(parts[0], partsExchanged(parts[1]));
+    }
+
+    // Returns how many steps had finite outputs, and were stored. Every index is a constant, so that the sums stay in
+    // registers.
+    template <int Count>
+    [[gnu::always_inline]] static int steps(const T* table, T* found, const T* pSrc, T* pDst)
+    {
+        Sums sums[Count];
         [&]<int... J>(std::integer_sequence<int, J...>) __attribute__((always_inline))
         {
-            (add(table + J * rows, J, pSrc[J], fromSamples), ...);
+            const auto sample = [&](int j) __attribute__((always_inline))
+            {
+                for (int i = 0; i < Count; ++i)
+                    add(table, j, j, pSrc + (i * length + j) * each, sums[i].y, sums[i].next);
+            };
+            (sample(J), ...);
         }
-        (std::make_integer_sequence<int, stepLength>{});
+        (std::make_integer_sequence<int, length>{});
+        for (int i = 0; i < Count; ++i)
+            if (!step(table, found, pDst + i * outputLanes, sums[i])) return i;
+        return Count;
+    }
+
+    // The rest of a step, whose samples are added up already.
+    [[gnu::always_inline]] static bool step(const T* table, T* found, T* pDst, Sums& sum)
+    {
+        Numbers others[chains - 1][states][each] = {};
         [&]<int... K>(std::integer_sequence<int, K...>) __attribute__((always_inline))
         {
-            (add(table + (stepLength + K) * rows, 0, found[K], K % 2 ? fromSamples : fromNumbers), ...);
+            (add(table, length + K, 0, found + K * each, sum.y,
+                 K % chains ? others[K % chains - 1] : sum.next),
+             ...);
         }
         (std::make_integer_sequence<int, States>{});
-        Outputs sum = y[0] - y[0];
-        for (int p = 1; p < outputs; ++p) sum += y[p] - y[p];
-        if (!isFinite(sum)) return false;
+        Outputs y[outputs];
+        for (int p = 0; p < outputs; ++p) y[p] = joined(sum.y[p]);
+        Outputs probe = y[0];
+        for (int p = 1; p < outputs; ++p) probe += y[p] - y[p];
+        if (!isFinite(probe)) return false;
         for (int p = 0; p < outputs; ++p) store<width>(pDst + p * width, y[p]);
-        for (int q = 0; q < states; ++q)
-            store<stateWidth>(found + q * stateWidth, fromSamples[q] + fromNumbers[q]);
+        auto& next = sum.next;
+        for (int q = 0; q < states; ++q) {
+            for (int part = 0; part < each; ++part) {
+                auto& all = next[q][part];
+                all += others[0][q][part];
+                if constexpr (chains == 4) all += others[1][q][part] + others[2][q][part];
+            }
+            store<stateWidth>(found + q * stateWidth, joined(next[q]));
+        }
         return true;
     }
 };
 
-// The table, from the responses of the recurrence in double precision: respond(delay, samples) filters a step.
-template <class T, int States, class Respond>
-void fillStep(T* table, Respond respond)
+// The numbers in which tables are made.
+template <class E>
+using Wide = std::conditional_t<LaneOf<E>::each == 1, Zor64f, Zor64fc>;
+
+template <class To, class From>
+To rounded(From v)
 {
-    using S = Step<T, States>;
-    std::fill_n(table, S::tableLength, T{});
-    for (int c = 0; c < S::columns; ++c, table += S::rows) {
-        Zor64f delay[States + 1] = {}, samples[stepLength] = {};
-        (c < stepLength ? samples[c] : delay[c - stepLength]) = 1;
+    if constexpr (LaneOf<From>::each == 1)
+        return static_cast<To>(v);
+    else
+        return {static_cast<Lane<To>>(v.re), static_cast<Lane<To>>(v.im)};
+}
+
+// The table, from the responses of the recurrence in double precision: respond(delay, samples) filters a step.
+template <class E, int States, class Respond>
+void fillStep(E* table, Respond respond)
+{
+    using S = Step<E, States>;
+    std::fill_n(table, S::tableLength, E{});
+    E* numbers = table + S::columns * S::length;
+    for (int c = 0; c < S::columns; ++c, table += S::length, numbers += S::stateRows) {
+        Wide<E> delay[States + 1] = {}, samples[S::length] = {};
+        *asLanes(c < S::length ? samples + c : delay + (c - S::length)) = 1;
         respond(delay, samples);
-        std::transform(samples, samples + stepLength, table, [](Zor64f v) { return static_cast<T>(v); });
-        std::transform(delay, delay + States, table + stepLength, [](Zor64f v) { return static_cast<T>(v); });
+        std::transform(samples, samples + S::length, table, rounded<E, Wide<E>>);
+        std::transform(delay, delay + States, numbers, rounded<E, Wide<E>>);
     }
 }
 
-// So many sections make one step together.
-inline constexpr int sectionsOfStep = 4;
-
-// Calls run with the number of numbers of some sections.
-template <class Run>
-void withSections(std::ptrdiff_t sections, Run run)
-{
-    if (sections == 1) return run(std::integral_constant<int, 2>{});
-    if (sections == 2) return run(std::integral_constant<int, 4>{});
-    if (sections == 3) return run(std::integral_constant<int, 6>{});
-    run(std::integral_constant<int, 2 * sectionsOfStep>{});
-}
-
-// The same with that of one section of any order, where there is a table of that: orders are rounded up.
+// Calls run with the order that there is a table of: it is rounded up.
 template <class Run>
 void withOrder(int order, Run run)
 {
@@ -119,23 +187,82 @@ void withOrder(int order, Run run)
 
 inline constexpr int highestOrderOfStep = 16;
 
+// So many sections make one step together.
+template <Structure structure, class E>
+inline constexpr int stepOfSections = Step<E, numbersOfSection(structure) * mostSections>::tableLength;
+
+// Tables begin with a cache line, or most loads would span two.
+inline constexpr int tableAlignment = 64;
 template <class E>
-inline constexpr int stepOfSections = Step<E, 2 * sectionsOfStep>::tableLength;
+inline constexpr int tableGap = (tableAlignment - 16) / int{sizeof(E)};
+
+template <class E>
+E* tablesOf(const IirRecord<E>& r)
+{
+    return alignedTo(tableAlignment, r.tables);
+}
 
 // Sections from the first on that there are tables for.
-template <class E>
+template <Structure structure, class E>
 std::ptrdiff_t sectionsWithTables(const IirRecord<E>& r)
 {
-    const IirDesign d{r.structure, r.count, false};
-    return std::min<std::ptrdiff_t>(r.count, d.tableRoom() / stepOfSections<E> * sectionsOfStep);
+    const IirDesign d{structure, r.count, false};
+    const std::ptrdiff_t tables = (d.tableRoom() - tableGap<E>) / stepOfSections<structure, E>;
+    return std::min<std::ptrdiff_t>(r.count, tables * mostSections);
+}
+
+// Calls run with a table, the place of its first section, and how many sections it is for.
+template <Structure structure, class E, class Run>
+std::ptrdiff_t withTables(const IirRecord<E>& r, Run run)
+{
+    E* table = tablesOf(r);
+    const std::ptrdiff_t all = sectionsWithTables<structure>(r);
+    for (std::ptrdiff_t s = 0; s < all; s += mostSections, table += stepOfSections<structure, E>)
+        withSections(all - s, [&](auto sections) { run(table, s, sections); });
+    return all;
 }
 
 template <class E>
 bool hasSteps(const IirRecord<E>& r)
 {
-    if constexpr (LaneOf<E>::each > 1) return false;
-    if (r.structure == Structure::anyOrder) return r.count >= 1 && r.count <= highestOrderOfStep;
-    return r.structure == Structure::biQuad;
+    return r.structure != Structure::anyOrder || (r.count >= 1 && r.count <= highestOrderOfStep);
+}
+
+template <Structure structure, class E>
+void fillSections(IirRecord<E>& r)
+{
+    withTables<structure>(r, [&](E* table, std::ptrdiff_t s, auto sections) {
+        Wide<E> taps[5 * sections];
+        std::transform(r.taps + 5 * s, r.taps + 5 * (s + sections), taps, rounded<Wide<E>, E>);
+        fillStep<E, numbersOfSection(structure) * sections>(table, [&](Wide<E>* delay, Wide<E>* samples) {
+            filterSome<structure, sections>(taps, delay, samples, samples, stepLength<E>);
+        });
+    });
+}
+
+template <class E>
+void fillOrder(IirRecord<E>& r)
+{
+    Wide<E> taps[2 * highestOrderOfStep + 1];
+    std::transform(r.taps, r.taps + 2 * r.count + 1, taps, rounded<Wide<E>, E>);
+    withOrder(r.count, [&](auto states) {
+        fillStep<E, states>(tablesOf(r), [&](Wide<E>* delay, Wide<E>* samples) {
+            std::fill(delay + r.count, delay + states, Wide<E>{});
+            for (int n = 0; n < stepLength<E>; ++n)
+                samples[n] = nextOfOrder(taps, delay, r.count, samples[n]);
+        });
+    });
+}
+
+// Of the structures, direct form 1 is only there in single precision.
+template <class E, class Order, class Sections>
+void byStructure(const IirRecord<E>& r, Order order, Sections sections)
+{
+    if (r.structure == Structure::anyOrder) return order();
+    if constexpr (std::is_same_v<E, Zor32f>)
+        if (r.structure == Structure::directForm1)
+            return sections(std::integral_constant<Structure, Structure::directForm1>{});
+    sections(std::integral_constant<Structure, Structure::biQuad>{});
 }
 
 // The tables of a record, from its taps.
@@ -143,101 +270,77 @@ template <class E>
 void fillSteps(IirRecord<E>& r)
 {
     if (!hasSteps(r)) return;
-    if constexpr (LaneOf<E>::each == 1) {
-        if (r.structure == Structure::anyOrder) {
-            Zor64f taps[2 * highestOrderOfStep + 1];
-            std::copy_n(r.taps, 2 * r.count + 1, taps);
-            withOrder(r.count, [&](auto states) {
-                fillStep<E, states>(r.tables, [&](Zor64f* delay, Zor64f* samples) {
-                    std::fill(delay + r.count, delay + states, 0);
-                    for (int n = 0; n < stepLength; ++n)
-                        samples[n] = nextOfOrder(taps, delay, r.count, samples[n]);
-                });
-            });
-            return;
-        }
-        E* table = r.tables;
-        const std::ptrdiff_t all = sectionsWithTables(r);
-        for (std::ptrdiff_t s = 0; s < all; s += sectionsOfStep, table += stepOfSections<E>) {
-            const auto some = std::min<std::ptrdiff_t>(sectionsOfStep, all - s);
-            Zor64f taps[5 * sectionsOfStep];
-            std::copy_n(r.taps + 5 * s, 5 * some, taps);
-            withSections(some, [&](auto states) {
-                fillStep<E, states>(table, [&](Zor64f* delay, Zor64f* samples) {
-                    for (int i = 0; i < states / 2; ++i)
-                        filterSections<1>(taps + 5 * i, delay + 2 * i, samples, samples, stepLength);
-                });
-            });
-        }
-    }
+    byStructure(
+        r, [&] { fillOrder(r); }, [&](auto structure) { fillSections<structure>(r); });
 }
 
 // Steps, as far as they go, and the rest sample by sample. A step that is refused goes sample by sample, too.
-template <class Steps, class Samples>
+template <class E, class Steps, class Samples>
 void filterBySteps(std::ptrdiff_t len, Steps steps, Samples samples)
 {
     for (std::ptrdiff_t n = 0; n < len;) {
         n += steps(n);
-        const std::ptrdiff_t some = std::min<std::ptrdiff_t>(stepLength, len - n);
+        const std::ptrdiff_t some = std::min<std::ptrdiff_t>(stepLength<E>, len - n);
         if (some > 0) samples(n, some);
         n += some;
     }
 }
 
 template <class E>
-void filterAhead(IirRecord<E>& r, const E* pSrc, E* pDst, std::ptrdiff_t len)
+void filterOrderAhead(IirRecord<E>& r, const E* pSrc, E* pDst, std::ptrdiff_t len)
 {
-    if constexpr (LaneOf<E>::each == 1) {
-        if (r.structure == Structure::anyOrder) {
-            E delay[highestOrderOfStep] = {};
-            withOrder(r.count, [&](auto states) {
-                filterBySteps(
-                    len,
-                    [&](std::ptrdiff_t n) {
-                        std::copy_n(r.delay, r.count, delay);
-                        n = Step<E, states>::filter(r.tables, delay, pSrc + n, pDst + n, len - n);
-                        std::copy_n(delay, r.count, r.delay);
-                        return n;
-                    },
-                    [&](std::ptrdiff_t n, std::ptrdiff_t some) {
-                        filterAnyOrder(r, pSrc + n, pDst + n, some);
-                    });
+    E delay[highestOrderOfStep] = {};
+    withOrder(r.count, [&](auto states) {
+        filterBySteps<E>(
+            len,
+            [&](std::ptrdiff_t n) {
+                std::copy_n(r.delay, r.count, delay);
+                n = Step<E, states>::filter(tablesOf(r), delay, pSrc + n, pDst + n, len - n);
+                std::copy_n(delay, r.count, r.delay);
+                return n;
+            },
+            [&](std::ptrdiff_t n, std::ptrdiff_t some) { filterAnyOrder(r, pSrc + n, pDst + n, some); });
+    });
+}
+
+template <Structure structure, class E>
+void filterSectionsAhead(IirRecord<E>& r, const E* pSrc, E* pDst, std::ptrdiff_t len)
+{
+    constexpr int each = numbersOfSection(structure);
+    const std::ptrdiff_t done = withTables<structure>(r, [&](const E* table, std::ptrdiff_t s,
+                                                             auto sections) {
+        E* delay = r.delay + each * s;
+        filterBySteps<E>(
+            len,
+            [&](std::ptrdiff_t n) {
+                const auto count =
+                    Step<E, each * sections>::filter(table, delay, pSrc + n, pDst + n, len - n);
+                // In direct form 1 the last numbers are the last outputs, and have their bits.
+                if (structure == Structure::directForm1 && count > 0)
+                    std::reverse_copy(pDst + n + count - 2, pDst + n + count, delay + each * sections - 2);
+                return count;
+            },
+            [&](std::ptrdiff_t n, std::ptrdiff_t count) {
+                filterSome<structure, sections>(r.taps + 5 * s, delay, pSrc + n, pDst + n, count);
             });
-            return;
-        }
-        const E* table = r.tables;
-        const std::ptrdiff_t all = sectionsWithTables(r);
-        std::ptrdiff_t s = 0;
-        for (; s < all; s += sectionsOfStep, table += stepOfSections<E>, pSrc = pDst) {
-            const auto some = std::min<std::ptrdiff_t>(sectionsOfStep, all - s);
-            E* delay = r.delay + 2 * s;
-            withSections(some, [&](auto states) {
-                filterBySteps(
-                    len,
-                    [&](std::ptrdiff_t n) {
-                        return Step<E, states>::filter(table, delay, pSrc + n, pDst + n, len - n);
-                    },
-                    [&](std::ptrdiff_t n, std::ptrdiff_t count) {
-                        filterSections<states / 2>(r.taps + 5 * s, delay, pSrc + n, pDst + n, count);
-                    });
-            });
-        }
-        filterCascade(r, s, pSrc, pDst, len);
-    }
+        pSrc = pDst;
+    });
+    filterCascade<structure>(r, done, pSrc, pDst, len);
 }
 
 // A chunk, by steps where there are any.
 template <class E>
 void filterChunk(IirRecord<E>& r, const E* pSrc, E* pDst, std::ptrdiff_t len)
 {
-    if (len >= stepLength && hasSteps(r)) return filterAhead(r, pSrc, pDst, len);
+    const bool isLong = len >= stepLength<E> && hasSteps(r);
     constexpr int few = 4;
     if (len < few && r.structure != Structure::directForm1) return filterFew(r, pSrc, pDst, len);
-    if (r.structure == Structure::anyOrder) return filterAnyOrder(r, pSrc, pDst, len);
-    if (r.structure == Structure::biQuad) return filterCascade(r, 0, pSrc, pDst, len);
-    if constexpr (std::is_same_v<E, Zor32f>)
-        for (std::ptrdiff_t s = 0; s < r.count; ++s, pSrc = pDst)
-            filterDirectForm1(r.taps + 5 * s, r.delay + 4 * s, pSrc, pDst, len);
+    byStructure(
+        r, [&] { isLong ? filterOrderAhead(r, pSrc, pDst, len) : filterAnyOrder(r, pSrc, pDst, len); },
+        [&](auto structure) {
+            isLong ? filterSectionsAhead<structure>(r, pSrc, pDst, len)
+                   : filterCascade<structure>(r, 0, pSrc, pDst, len);
+        });
 }
 
 } // namespace zors::ZORS_VARIANT

@@ -1,18 +1,11 @@
 // What tells the kinds of filter records apart: the types of taps and data, the type of the arithmetic, and the tags.
 #pragma once
 
-#include <zortypes.h>
+#include "tag.h"
 
 #include <type_traits>
 
 namespace zors::ZORS_VARIANT {
-
-// Two letters and two digits, the first letter in the highest byte.
-constexpr Zor32u filterTag(int number)
-{
-    const auto digit = [](int d) { return static_cast<Zor32u>('0' + d); };
-    return Zor32u{'F'} << 24 | Zor32u{'I'} << 16 | digit(number / 10) << 8 | digit(number % 10);
-}
 
 template <class T, class D, class E, int Single, int MultiRate, int Stream = 0, int MultiRateStream = 0>
 struct FilterKind {
@@ -23,10 +16,10 @@ struct FilterKind {
     // 16-bit taps on 16-bit data: the products and their sums are exact in double precision, transforms are not.
     static constexpr bool isExact = std::is_same_v<T, Zor16s>;
     // 0 where there is no record of a form.
-    static constexpr Zor32u single = Single ? filterTag(Single) : 0;
-    static constexpr Zor32u multiRate = filterTag(MultiRate);
-    static constexpr Zor32u stream = Stream ? filterTag(Stream) : 0;
-    static constexpr Zor32u multiRateStream = MultiRateStream ? filterTag(MultiRateStream) : 0;
+    static constexpr Zor32u single = Single ? filterTag('F', Single) : 0;
+    static constexpr Zor32u multiRate = filterTag('F', MultiRate);
+    static constexpr Zor32u stream = Stream ? filterTag('F', Stream) : 0;
+    static constexpr Zor32u multiRateStream = MultiRateStream ? filterTag('F', MultiRateStream) : 0;
 };
 
 template <class State>

@@ -87,39 +87,25 @@ Wide roundingOf(const Filter& f, Wide frequency)
 
 constexpr double ripples[] = {0, 1e-3, 0.5, 3, 29};
 
+// Where the poles are not crowded nothing is granted for the rounding of the taps.
 TEST(IirDesign, HasItsResponse)
 {
     for (const Band band : {Band::lowpass, Band::highpass})
         for (const double ripple : ripples)
             for (int order = 1; order <= 12; ++order)
-                for (const double rFreq : {1e-3, 0.05, 0.17, 0.25, 0.3, 0.44, 0.4999}) {
+                for (const double rFreq : {1e-3, 0.05, 0.2, 0.25, 0.3, 0.44, 0.4999}) {
+                    const bool isCrowded = ripple != 0 || rFreq < 0.2 || rFreq > 0.3;
                     const Filter f = filter(band, rFreq, ripple, order);
                     compared(64);
                     for (int k = 0; k < 64; ++k) {
                         const Wide frequency = (k + 0.5L) / 128;
                         const Wide want = std::sqrt(idealAt(band, rFreq, ripple, order, frequency));
                         ASSERT_LE(std::abs(responseAt(f, frequency) - want),
-                                  want * (1e-12L + 2 * roundingOf(f, frequency)))
+                                  want * (1e-12L + (isCrowded ? 2 * roundingOf(f, frequency) : 0)))
                             << "order " << order << ", cut-off " << rFreq << ", ripple " << ripple << ", at "
                             << frequency;
                     }
                 }
-}
-
-// Where the poles are not crowded nothing is to be granted for the rounding of the taps.
-TEST(IirDesign, ButterworthHasItsResponse)
-{
-    for (const Band band : {Band::lowpass, Band::highpass})
-        for (int order = 1; order <= 12; ++order)
-            for (const double rFreq : {0.2, 0.25, 0.3}) {
-                const Filter f = filter(band, rFreq, 0, order);
-                for (int k = 0; k < 64; ++k) {
-                    const Wide frequency = (k + 0.5L) / 128;
-                    const Wide want = std::sqrt(idealAt(band, rFreq, 0, order, frequency));
-                    ASSERT_LE(std::abs(responseAt(f, frequency) - want), 1e-12L * want)
-                        << "order " << order << ", cut-off " << rFreq << ", at " << frequency;
-                }
-            }
 }
 
 // The gain is 1 at one end of the spectrum and 0, in every one of its derivatives, at the other.

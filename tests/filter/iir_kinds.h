@@ -20,11 +20,6 @@ struct IirKind {
                : structure == Structure::cascade ? 2 * count
                                                  : 4 * count;
     }
-    // II and two digits, the first I in the highest byte.
-    Zor32u tag() const
-    {
-        return 0x49493030U + static_cast<Zor32u>(kind.single / 10 * 256 + kind.single % 10);
-    }
 };
 
 const std::vector<IirKind>& iirKinds();

@@ -1,6 +1,6 @@
 // Records of recursive filters: sizes, tags, taps and delay lines, faults, memory.
-#include "filter/faults.h"
 #include "filter/iir_signal.h"
+#include "filter/order_of_use.h"
 #include "support/allocator.h"
 
 #include <gtest/gtest.h>
@@ -65,7 +65,7 @@ TEST(IirRecords, RememberTheirDelayLine)
             ASSERT_EQ(k.kind.size(count, &size), zorStsOk);
             std::vector<Zor8u> memory(static_cast<std::size_t>(size));
             const IirRecord record(s);
-            EXPECT_EQ(tagOf(record.get()), k.tag());
+            EXPECT_EQ(tagOf(record.get()), tag(k.kind.single, 'I'));
             const Vector want = run(record, s, {40});
             for (const Vector* delay : {&s.delay, &zeros}) {
                 const void* line = delay == &zeros ? nullptr : delay->at();
@@ -73,7 +73,7 @@ TEST(IirRecords, RememberTheirDelayLine)
                 void* state = nullptr;
                 ASSERT_EQ(k.kind.init(&state, s.taps.at(), count, s.tapsFactor, line, memory.data()),
                           zorStsOk);
-                EXPECT_EQ(tagOf(state), k.tag());
+                EXPECT_EQ(tagOf(state), tag(k.kind.single, 'I'));
                 ASSERT_EQ(k.kind.getDlyLine(state, got.at()), zorStsOk);
                 EXPECT_TRUE(got == *delay);
                 ASSERT_EQ(k.kind.setDlyLine(record.get(), line), zorStsOk);
@@ -180,31 +180,6 @@ TEST(IirRecords, CheckWhatTheyAreMadeOf)
     }
 }
 
-void expectOrderOfUse(const IirKind& iir, void* good, void* bad)
-{
-    const Kind& k = iir.kind;
-    Untouched src, dst;
-    const auto record = [&](unsigned faults, unsigned isNull, unsigned isWrong) {
-        return unless(faults & isNull, faults & isWrong ? bad : good);
-    };
-    expectOrder("IIR", {null, null, null, size_, wrong}, [&](unsigned f) {
-        return k.run(unless(f & 1, src.get()), unless(f & 2, dst.get()), f & 8 ? -3 : 4, record(f, 4, 16), 0);
-    });
-    expectOrder("IIR in place", {null, null, size_, wrong}, [&](unsigned f) {
-        return k.runInPlace(unless(f & 1, dst.get()), f & 4 ? 0 : 4, record(f, 2, 8), 0);
-    });
-    expectOrder("SetTaps", {null, null, wrong},
-                [&](unsigned f) { return k.setTaps(unless(f & 1, src.get()), record(f, 2, 4), 0); });
-    expectOrder("SetDlyLine", {null, wrong},
-                [&](unsigned f) { return k.setDlyLine(record(f, 1, 2), src.get()); });
-    expectOrder("GetDlyLine", {null, null, wrong},
-                [&](unsigned f) { return k.getDlyLine(record(f, 1, 4), unless(f & 2, dst.get())); });
-    expectOrder("Free", {null, wrong}, [&](unsigned f) { return k.free(record(f, 1, 2)); });
-    if (!k.one) return;
-    expectOrder("IIROne", {null, null, wrong},
-                [&](unsigned f) { return k.one(src.get(), unless(f & 1, dst.get()), record(f, 2, 4), 0); });
-}
-
 TEST(IirRecords, CheckTheirUse)
 {
     Random random;
@@ -216,7 +191,7 @@ TEST(IirRecords, CheckTheirUse)
         const Zor32u before = first;
         for (const Zor32u other : {before ^ 0x0f000000U, before + 0x4000U, 0U}) {
             first = other;
-            expectOrderOfUse(k, good.get(), tampered.get());
+            expectOrderOfUse(k.kind, good.get(), tampered.get());
         }
         first = before;
         EXPECT_TRUE(good.delayLine() == s.delay) << "changed in spite of an error";
@@ -225,7 +200,7 @@ TEST(IirRecords, CheckTheirUse)
             if (owner.kind.free == k.kind.free) continue;
             const IirSignal other = randomIirSignal(owner, 3, 1, random);
             const IirRecord record(other);
-            expectOrderOfUse(k, good.get(), record.get());
+            expectOrderOfUse(k.kind, good.get(), record.get());
         }
         if (k.structure == Structure::directForm1) {
             Untouched sample;

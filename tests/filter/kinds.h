@@ -88,10 +88,11 @@ inline Zor32u tagOf(const void* record)
 {
     return *static_cast<const Zor32u*>(record);
 }
-// FI and two digits, the F in the highest byte.
-constexpr Zor32u tag(int number)
+// A letter, an I and two digits, the letter in the highest byte.
+constexpr Zor32u tag(int number, char letter = 'F')
 {
-    return 0x46493030U + static_cast<Zor32u>(number / 10 * 256 + number % 10);
+    return static_cast<Zor32u>(letter) << 24 |
+           (0x493030U + static_cast<Zor32u>(number / 10 * 256 + number % 10));
 }
 
 } // namespace zors::test

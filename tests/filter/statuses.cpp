@@ -1,12 +1,12 @@
 // Bad arguments: the first fault in the order of the checks is the status, and nothing is written.
-#include "filter/faults.h"
+#include "filter/order_of_use.h"
 #include "filter/signal.h"
 
 namespace zors::test {
 namespace {
 
 constexpr ZorStatus null = zorStsNullPointer, length = zorStsBadFirLength, factor = zorStsBadMultiRateFactor,
-                    phase = zorStsBadMultiRatePhase, wrong = zorStsWrongContext, size_ = zorStsBadSize;
+                    phase = zorStsBadMultiRatePhase, wrong = zorStsWrongContext;
 
 TEST(Statuses, OfMakingSingleRateRecords)
 {
@@ -104,33 +104,6 @@ TEST(Statuses, OfMakingStreamRecords)
         EXPECT_EQ(size, 77);
         EXPECT_EQ(state, &mark);
     }
-}
-
-// What processes and reads records, over a record that is wrong where the last fault says so.
-void expectOrderOfUse(const Kind& k, void* good, void* bad)
-{
-    Untouched src, dst;
-    const auto record = [&](unsigned faults, unsigned isNull, unsigned isWrong) {
-        return unless(faults & isNull, faults & isWrong ? bad : good);
-    };
-    expectOrder("FIR", {null, null, null, size_, wrong}, [&](unsigned f) {
-        return k.run(unless(f & 1, src.get()), unless(f & 2, dst.get()), f & 8 ? -3 : 4, record(f, 4, 16), 0);
-    });
-    expectOrder("FIR in place", {null, null, size_, wrong}, [&](unsigned f) {
-        return k.runInPlace(unless(f & 1, dst.get()), f & 4 ? 0 : 4, record(f, 2, 8), 0);
-    });
-    expectOrder("SetTaps", {null, null, wrong},
-                [&](unsigned f) { return k.setTaps(unless(f & 1, src.get()), record(f, 2, 4), 0); });
-    expectOrder("GetTaps", {null, null, wrong},
-                [&](unsigned f) { return k.getTaps(record(f, 1, 4), unless(f & 2, dst.get()), 0); });
-    expectOrder("SetDlyLine", {null, wrong},
-                [&](unsigned f) { return k.setDlyLine(record(f, 1, 2), src.get()); });
-    expectOrder("GetDlyLine", {null, null, wrong},
-                [&](unsigned f) { return k.getDlyLine(record(f, 1, 4), unless(f & 2, dst.get())); });
-    expectOrder("Free", {null, wrong}, [&](unsigned f) { return k.free(record(f, 1, 2)); });
-    if (!k.one) return;
-    expectOrder("FIROne", {null, null, wrong},
-                [&](unsigned f) { return k.one(src.get(), unless(f & 1, dst.get()), record(f, 2, 4), 0); });
 }
 
 TEST(Statuses, OfUse)

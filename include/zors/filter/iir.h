@@ -14,15 +14,17 @@
  * one more rounding; to integers times 2^-scaleFactor, rounded to nearest, ties to even, and saturated. What a filter
  * feeds back is neither scaled nor saturated.
  *
- * Real filters of order up to 16, and at least the first eight sections of real cascades, filter calls of 16 samples
- * and more by steps of 16: the outputs of a step and the delay line behind it are formed from its samples and the
- * delay line before it, by tables that the recurrence makes in double precision when taps are set. All others go
+ * Filters of order up to 16, and at least the first eight sections of cascades, filter calls of 16 samples and more
+ * (complex ones of 8) by steps of so many: the outputs of a step and the delay line behind it are formed from its samples
+ * and the delay line before it, by tables that the recurrence makes in double precision when taps are set. All others go
  * sample by sample, and so do steps with numbers that are infinite or none. Both are within the bound. Processors
  * differ in rounding, and so do different cuts of a stream into calls; on one processor the same calls have the same
  * bits whatever the alignment of the vectors, in place or not.
  *
  * In blocks denormal numbers count as zeros: what a filter feeds back decays into them, and they would take a hundred
- * times as long.
+ * times as long. In single samples they do as soon as samples or outputs of sections are below 2^-100 (`Zor64f`
+ * arithmetic: 2^-970). Fed a sample of zero then, the first sections whose delay lines are all below that come to rest:
+ * their delay lines become zeros.
  */
 #include <zortypes.h>
 
