@@ -15,21 +15,33 @@
 
 namespace zors::ZORS_VARIANT {
 
-inline constexpr int pointLanes = 16, pointSteps = 64, pointBlocks = 8;
+inline constexpr int pointLanes = 16, pointSteps = 64;
+
+// Angles that are evaluated at a time, whatever the width: their roundings depend on it.
+inline constexpr int anglesAtOnce = 8;
 
 template <int Count>
 struct Angles {
     double cosine[Count], sine[Count];
 
-    // Those of the multiples of the frequency from first on. A constant number at a time from each, because their
-    // roundings depend on where they start.
-    void fill(double frequency, int first, int count = Count)
+    // Those of the multiples of the frequency from first on.
+    void evaluate(double frequency, int first)
     {
         const auto from = Oscillation(frequency, 0).from(first);
-        for (int n = 0; n < count; n += lanes<double>) {
+        for (int n = 0; n < anglesAtOnce; n += lanes<double>) {
             const auto v = from(n);
             store<lanes<double>>(cosine + n, v.cosine);
             store<lanes<double>>(sine + n, v.sine);
+        }
+    }
+
+    // Those from a place on: the first ones, and another added to each.
+    void add(int place, double c, double s)
+    {
+        for (int n = 0; n < anglesAtOnce; n += lanes<double>) {
+            const auto x = load<lanes<double>>(cosine + n), y = load<lanes<double>>(sine + n);
+            store<lanes<double>>(cosine + place + n, x * splat(c) - y * splat(s));
+            store<lanes<double>>(sine + place + n, x * splat(s) + y * splat(c));
         }
     }
 };
@@ -39,12 +51,6 @@ inline double turned(double frequency, int samples)
 {
     const double turns = frequency * samples;
     return turns - std::floor(turns);
-}
-
-template <class T>
-[[gnu::always_inline]] inline Vec<double> loadDoubles(const T* p)
-{
-    return toDouble<lanes<double>>(load<lanes<double>>(p));
 }
 
 // The sum of one frequency.
@@ -57,22 +63,40 @@ public:
     void start(double frequency, std::ptrdiff_t len)
     {
         frequency_ = frequency;
+        lanes_.evaluate(frequency, 1);
+        steps.evaluate(turned(frequency, stepLength), 0);
         const auto count =
             static_cast<int>(std::min<std::ptrdiff_t>(pointSteps, (len + stepLength - 1) / stepLength));
-        steps.fill(turned(frequency, stepLength), 0, count);
+        if (count > 2 * anglesAtOnce) {
+            Angles<anglesAtOnce> more;
+            more.evaluate(turned(frequency, anglesAtOnce * stepLength), 0);
+            for (int i = 1; i * anglesAtOnce < count; ++i)
+                steps.add(i * anglesAtOnce, more.cosine[i], more.sine[i]);
+        } else if (count > anglesAtOnce) {
+            // An angle by the sum of two is a third of the time that an evaluation takes.
+            const double c1 = steps.cosine[1], s1 = steps.sine[1];
+            const double c = steps.cosine[anglesAtOnce - 1], s = steps.sine[anglesAtOnce - 1];
+            steps.add(anglesAtOnce, c * c1 - s * s1, c * s1 + s * c1);
+        }
+        if (stepLength > anglesAtOnce)
+            lanes_.add(anglesAtOnce, lanes_.cosine[anglesAtOnce - 1], lanes_.sine[anglesAtOnce - 1]);
     }
 
     // The sums of a block's samples, without its own angle.
     Sums cosines, sines;
     Angles<pointSteps> steps;
 
+    // The last block has the angle 0.
     void finishBlock(int block)
     {
-        const int at = block % pointBlocks;
-        if (at == 0) blocks_.fill(turned(frequency_, stepLength * pointSteps), block);
-        turn(
-            cosines, sines, [&](auto) { return splat(blocks_.cosine[at]); },
-            [&](auto) { return splat(blocks_.sine[at]); });
+        if (block > 0) {
+            const int at = block % anglesAtOnce;
+            if (at == 0 || block == 1)
+                blocks_.evaluate(turned(frequency_, stepLength * pointSteps), block - at);
+            turn(
+                cosines, sines, [&](int) { return splat(blocks_.cosine[at]); },
+                [&](int) { return splat(blocks_.sine[at]); });
+        }
         for (int v = 0; v < Sums::count; ++v) {
             re_.part[v] += cosines.part[v];
             im_.part[v] += sines.part[v];
@@ -83,16 +107,14 @@ public:
     // Real part, imaginary part.
     void finish(double* to)
     {
-        Angles<pointLanes> angles;
-        angles.fill(frequency_, 1, stepLength);
         // Of lane l, which is so many samples before the end.
         double c[pointLanes], s[pointLanes];
         for (int l = 0; l < pointLanes; ++l) {
             const int before = stepLength - 1 - l / each;
             // The imaginary part of a sample is turned by a quarter more.
             const bool more = l % each == 1;
-            c[l] = more ? -angles.sine[before] : angles.cosine[before];
-            s[l] = more ? angles.cosine[before] : angles.sine[before];
+            c[l] = more ? -lanes_.sine[before] : lanes_.cosine[before];
+            s[l] = more ? lanes_.cosine[before] : lanes_.sine[before];
         }
         turn(
             re_, im_, [&](int v) { return load<lanes<double>>(c + v * lanes<double>); },
@@ -113,14 +135,15 @@ private:
     }
 
     double frequency_ = 0;
-    Angles<pointBlocks> blocks_;
+    Angles<pointLanes> lanes_;
+    Angles<anglesAtOnce> blocks_;
     Sums re_, im_;
 };
 
-// Adds so many steps to the sums of some vectors of the pattern, as many as there are registers for: x points at them
-// in the step that is nearest to the end.
-template <int Vectors, int First, class T, class Element, int Count>
-[[gnu::always_inline]] inline void addSteps(const Element* x, int firstStep, int steps,
+// Adds so many steps to the sums of some vectors of the pattern, as many as there are registers for. Sample gives a
+// vector of the pattern in a step.
+template <int Vectors, int First, class T, class Sample, int Count>
+[[gnu::always_inline]] inline void addSteps(Sample sample, int firstStep, int endStep,
                                             SpectrumPoint<T> (&points)[Count])
 {
     Vec<double> c[Count][Vectors], s[Count][Vectors];
@@ -129,13 +152,12 @@ template <int Vectors, int First, class T, class Element, int Count>
             c[k][v] = points[k].cosines.part[First + v];
             s[k][v] = points[k].sines.part[First + v];
         }
-    x += First * lanes<double>;
-    for (int a = firstStep; a < firstStep + steps; ++a, x -= pointLanes)
+    for (int a = firstStep; a < endStep; ++a)
         for (int v = 0; v < Vectors; ++v) {
-            const auto sample = loadDoubles(x + v * lanes<double>);
+            const Vec<double> x = sample(a, First + v);
             for (int k = 0; k < Count; ++k) {
-                c[k][v] += sample * splat(points[k].steps.cosine[a]);
-                s[k][v] += sample * splat(points[k].steps.sine[a]);
+                c[k][v] += x * splat(points[k].steps.cosine[a]);
+                s[k][v] += x * splat(points[k].steps.sine[a]);
             }
         }
     for (int k = 0; k < Count; ++k)
@@ -145,14 +167,14 @@ template <int Vectors, int First, class T, class Element, int Count>
         }
 }
 
-template <class T, class Element, int Count>
-[[gnu::always_inline]] inline void addSteps(const Element* x, int firstStep, int steps,
+template <class T, class Sample, int Count>
+[[gnu::always_inline]] inline void addSteps(Sample sample, int firstStep, int endStep,
                                             SpectrumPoint<T> (&points)[Count])
 {
     constexpr int vectors = pointLanes / lanes<double>, atOnce = std::min(vectors, 4 / Count);
     [&]<int... I>(std::integer_sequence<int, I...>)
     {
-        (addSteps<atOnce, I * atOnce>(x, firstStep, steps, points), ...);
+        (addSteps<atOnce, I * atOnce>(sample, firstStep, endStep, points), ...);
     }
     (std::make_integer_sequence<int, vectors / atOnce>{});
 }
@@ -162,19 +184,24 @@ template <int Count, class T>
 void spectrumPoints(const T* pSrc, std::ptrdiff_t len, const double* frequencies, double* pSums)
 {
     using Point = SpectrumPoint<T>;
+    constexpr int n = lanes<double>;
     constexpr std::ptrdiff_t blockLength = pointSteps * Point::stepLength;
     Point points[Count];
     for (int k = 0; k < Count; ++k) points[k].start(frequencies[k], len);
     for (int block = 0; len > 0; ++block) {
         const auto count = static_cast<int>(std::min(len, blockLength));
         const int steps = count / Point::stepLength, left = count % Point::stepLength * Point::each;
-        const auto* end = asLanes(pSrc + len);
-        addSteps(end - pointLanes, 0, steps, points);
+        const auto* last = asLanes(pSrc + len) - pointLanes;
+        addSteps([=](int a, int v) { return toDouble<n>(load<n>(last - a * pointLanes + v * n)); }, 0, steps,
+                 points);
         if (left > 0) {
-            // The first samples of the vector, the last lanes of a step.
-            double first[pointLanes] = {};
-            for (int l = 0; l < left; ++l) first[pointLanes - left + l] = asLanes(pSrc)[l];
-            addSteps(first, steps, 1, points);
+            // The first samples of the vector are the last lanes of a step.
+            const auto first = [=](int, int v) {
+                const int begin = left - pointLanes + v * n;
+                return toDouble<n>(
+                    loadLast<n>(asLanes(pSrc) + std::max(begin, 0), std::clamp(begin + n, 0, n)));
+            };
+            addSteps(first, steps, steps + 1, points);
         }
         for (auto& point : points) point.finishBlock(block);
         len -= count;
