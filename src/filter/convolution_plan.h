@@ -76,7 +76,7 @@ struct BlockPlan {
 
     // From one spectrum to the next. A line more keeps those of many parts from falling onto the same lines of a cache.
     std::int64_t stride() const { return parts > 1 ? points + lineBytes / bytes<E> : points; }
-    // Spectra of the kernel's parts and of as many blocks, and a sum of products.
+    // Spectra of the kernel's parts and of as many blocks, and a sum of products, which takes the place of a single one.
     std::int64_t vectors() const { return 2 * parts + (parts > 1 ? 1 : 0); }
     std::int64_t memory() const { return transform.sum() + wholeLines(vectors() * stride() * bytes<E>); }
 

@@ -15,25 +15,22 @@ struct Spectra {
     std::ptrdiff_t stride, count;
 };
 
-// Adds the products of pairs of spectra to the sums of those at a place: by the real parts of b, and by the imaginary.
-template <class V, class E, class At>
-[[gnu::always_inline]] inline void addProducts(Pair<V>& sums, Spectra<E> a, const E* b,
-                                               std::ptrdiff_t bStride, At at)
+// Adds the products of pairs of spectra at some places to their sums: by the real parts of b, and by the imaginary.
+template <std::size_t Count, class V, class E, class... At>
+[[gnu::always_inline]] inline void addProducts(Pair<V> (&sums)[Count], Spectra<E> a, const E* b,
+                                               std::ptrdiff_t bStride, At... at)
 {
     for (std::ptrdiff_t i = 0; i < a.count; ++i, a.first += a.stride, b += bStride) {
-        const V x = load(a.first, at), y = load(b, at);
-        sums.first = mulAdd(realTwice(y), x, sums.first);
-        sums.second = mulAdd(imaginaryTwice(y), x, sums.second);
+        Pair<V>* sum = sums;
+        const auto add = [&](auto place) __attribute__((always_inline))
+        {
+            const V x = load(a.first, place), y = load(b, place);
+            sum->first = mulAdd(realTwice(y), x, sum->first);
+            sum->second = mulAdd(imaginaryTwice(y), x, sum->second);
+            ++sum;
+        };
+        (add(at), ...);
     }
-}
-
-template <class E>
-E productOfReals(Spectra<E> a, const E* b, std::ptrdiff_t bStride, std::ptrdiff_t at)
-{
-    E sum = 0;
-    for (std::ptrdiff_t i = 0; i < a.count; ++i)
-        sum = mulAdd(a.first[i * a.stride + at], b[i * bStride + at], sum);
-    return sum;
 }
 
 // The sum of the products of the spectra in two runs with those in b. The destination may be a spectrum.
@@ -41,21 +38,32 @@ template <class E>
 void sumOfProducts(Spectra<E> run, Spectra<E> next, const E* b, std::ptrdiff_t bStride, std::ptrdiff_t points,
                    E* pDst)
 {
+    using V = Vec<E>;
+    constexpr int n = lanes<E>;
     const E* bNext = b + run.count * bStride;
-    // The first two numbers are real.
-    const auto real = [&](std::ptrdiff_t at) {
-        return productOfReals(run, b, bStride, at) + productOfReals(next, bNext, bStride, at);
+    const auto sum = [=](auto... at) __attribute__((always_inline))
+    {
+        Pair<V> sums[sizeof...(at)] = {};
+        addProducts(sums, run, b, bStride, at...);
+        addProducts(sums, next, bNext, bStride, at...);
+        const Pair<V>* p = sums;
+        const auto keep = [&](auto place) __attribute__((always_inline))
+        {
+            const V imaginary = partsExchanged(p->second), whole = alternateSum(p->first, imaginary);
+            // The first two numbers are real, and each has its product among these.
+            const V real = select(iota<Index<E>>() == 0, p->first, p->second);
+            const bool hasReal = place.index == 0;
+            store(pDst, place, hasReal ? select(iota<Index<E>>() < 2, real, whole) : whole);
+            ++p;
+        };
+        (keep(at), ...);
     };
-    const E zero = real(0), middle = points > 1 ? real(1) : E{0};
-    blocks<lanes<E>>(
-        points, [=](auto at) __attribute__((always_inline)) {
-            Pair<Vec<E>> sums{};
-            addProducts(sums, run, b, bStride, at);
-            addProducts(sums, next, bNext, bStride, at);
-            store(pDst, at, alternateSum(sums.first, partsExchanged(sums.second)));
-        });
-    pDst[0] = zero;
-    if (points > 1) pDst[1] = middle;
+    // With four vectors none of their chains is waited for.
+    std::ptrdiff_t i = 0;
+    for (; i + 4 * n <= points; i += 4 * n)
+        sum(Whole<n>{i}, Whole<n>{i + n}, Whole<n>{i + 2 * n}, Whole<n>{i + 3 * n});
+    for (; i + n <= points; i += n) sum(Whole<n>{i});
+    if (i < points) sum(Part<n>{i, static_cast<int>(points - i)});
 }
 
 template <class E, class D>
@@ -83,10 +91,10 @@ public:
         const std::ptrdiff_t lastSignal = std::min(lastBlock, (of_.signalLen - 1 + plan_.older) / step);
         std::ptrdiff_t transformed = lastSignal + 1;
         for (std::ptrdiff_t block = lastBlock; block >= 0; --block) {
-            const std::ptrdiff_t first = std::max<std::ptrdiff_t>(0, block - plan_.parts + 1);
-            while (transformed > first)
+            const std::ptrdiff_t oldest = std::max<std::ptrdiff_t>(0, block - plan_.parts + 1);
+            while (transformed > oldest)
                 if (const ZorStatus bad = transformSignal(--transformed)) return bad;
-            multiply(block, std::min(block, lastSignal), first);
+            multiply(block, std::min(block, lastSignal), oldest);
             const std::ptrdiff_t at = block * step - plan_.older;
             const bool inDestination = pDst && at >= 0 && at + plan_.points <= outputs;
             E* const results = inDestination ? pDst + at : product_;
@@ -131,16 +139,16 @@ private:
         return (*Transform::forward)(p, p, spec_, work_);
     }
 
-    // Part k of the kernel meets block - k of the signal, of those from last down to first. In their memory these are
-    // one run or two.
-    void multiply(std::ptrdiff_t block, std::ptrdiff_t last, std::ptrdiff_t first)
+    // Part k of the kernel meets block - k of the signal, of those from newest to oldest. In their memory these are one
+    // run or two.
+    void multiply(std::ptrdiff_t block, std::ptrdiff_t newest, std::ptrdiff_t oldest)
     {
-        const std::ptrdiff_t count = last - first + 1, stride = plan_.stride();
-        const std::ptrdiff_t together = std::min(count, last % plan_.parts + 1);
-        const Spectra<E> run{signalSpectrum(last), -stride, together};
-        const Spectra<E> next{count > together ? signalSpectrum(last - together) : nullptr, -stride,
+        const std::ptrdiff_t count = newest - oldest + 1, stride = plan_.stride();
+        const std::ptrdiff_t together = std::min(count, newest % plan_.parts + 1);
+        const Spectra<E> run{signalSpectrum(newest), -stride, together};
+        const Spectra<E> next{count > together ? signalSpectrum(newest - together) : nullptr, -stride,
                               count - together};
-        sumOfProducts<E>(run, next, kernel_ + (block - last) * stride, stride, plan_.points, product_);
+        sumOfProducts<E>(run, next, kernel_ + (block - newest) * stride, stride, plan_.points, product_);
     }
 
     const BlockPlan<E>& plan_;
