@@ -178,7 +178,8 @@ public:
     void expectPoint(const T* p, int len, Angles& angles, Result got, int scaleFactor)
     {
         const Sum sum = sumOf(p, len, angles);
-        const Wide bound = isExact(angles) ? 0 : (100 + len / 500.0L) * 0x1p-53L * sum.magnitude;
+        const Wide bound =
+            isExact(angles) ? 0 : (28 + std::min(len, 512) / 8.0L + len / 500.0L) * 0x1p-53L * sum.magnitude;
         char where[96];
         std::snprintf(where, sizeof where, "length %d, frequency %.17g, factor %d", len, angles.frequency(),
                       scaleFactor);

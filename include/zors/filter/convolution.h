@@ -8,10 +8,13 @@
  * With n elements in the shorter vector, the sums are formed directly where the destination has fewer than 512 elements
  * or n < 64, otherwise by real fast Fourier transforms of blocks. Sums formed directly are of products of the type of
  * the elements, added in that type: an error of at most (n + 2) eps * (sum of the magnitudes of the products), where eps
- * is 2^-24 or 2^-53, and nothing beside the elements of a sum has a part in it. By transforms the error of an element is
- * at most 4 eps log2(4 n) times the root of the sum of squares of the shorter vector, times the same of those elements
- * of the longer one that have a part in its block; its root mean square on random vectors is a tenth of that. There, an
- * element that is not finite makes others infinite or not a number. Processors may differ within these bounds.
+ * is 2^-24 or 2^-53, and nothing beside the elements of a sum has a part in it. By transforms the error of an output is
+ * at most eps log2(4 n) times the root of the sum of squares of the shorter vector, times the same of those elements of
+ * the longer one that are less than 8 n away. There, an element that is not finite makes others infinite or not a
+ * number. Processors may differ within these bounds.
+ *
+ * Blocks are as long as is fastest, which is seldom as long as the transforms that the size of a buffer goes by: a long
+ * vector is cut into parts, because the tables of a long transform cost more than several short ones.
  */
 #include <zortypes.h>
 
@@ -40,8 +43,8 @@ ZORSAPI(ZorStatus, zorsConv_64f, (const Zor64f* pSrc1, int src1Len, const Zor64f
  * The convolution times 2^-scaleFactor, rounded to nearest, ties to even, and saturated.
  *
  * It is computed in double precision. Direct sums are exact. By transforms they are rounded to integers before they are
- * scaled, which makes them exact as long as the error of the file's bound is below a half, as with any 16-bit data where
- * the root of the product of the lengths in a block is up to 2^13, and with random data far beyond.
+ * scaled, which makes them exact as long as their error is below a half: for any data where the shorter vector has up to
+ * 65536 elements.
  * @param pSrc1 first vector
  * @param src1Len number of its elements
  * @param pSrc2 second vector

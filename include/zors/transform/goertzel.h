@@ -7,7 +7,7 @@
  *
  * The sum is formed as it stands, in double precision, in a fixed pattern of lanes, and not by a recurrence: it is as
  * precise near the frequencies 0, 1/2 and 1 as elsewhere. Before it is rounded to its type, each part of it is within
- * (100 + len / 500) * 2^-53 * (sum of |Re pSrc[n]| + |Im pSrc[n]|) of the exact one, at every length. Where f is a
+ * (28 + min(len, 512) / 8 + len / 500) * 2^-53 * (sum of |Re pSrc[n]| + |Im pSrc[n]|) of the exact one. Where f is a
  * multiple of 1/4, every angle is exact: X(0) of a real vector is its sum, with the imaginary part 0. All processors
  * give the same bits.
  */
