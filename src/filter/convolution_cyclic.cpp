@@ -3,6 +3,8 @@
 #include "vector/lane.h"
 #include "vector/quotient.h"
 
+#include <algorithm>
+
 namespace zors::ZORS_VARIANT {
 namespace {
 

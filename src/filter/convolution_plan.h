@@ -85,8 +85,8 @@ struct BlockPlan {
     double cost(std::int64_t outputs) const
     {
         constexpr double table = bytes<E> == 4 ? 116 : 55, copy = 2;
-        const auto blocks = static_cast<double>((outputs + step - 1) / step),
-                   all = static_cast<double>(parts);
+        const std::int64_t blockCount = (outputs + step - 1) / step;
+        const auto blocks = static_cast<double>(blockCount), all = static_cast<double>(parts);
         return static_cast<double>(points) * (table + (all + 2 * blocks) * order + blocks * (all + copy));
     }
 };

@@ -60,12 +60,15 @@ ZorStatus goertzScaled(const T* pSrc, int len, Point<T>* pVal, int scaleFactor, 
     return zorStsOk;
 }
 
-constexpr Zor32f fromQ15 = 0x1p-15f;
+Zor32f fromQ15(Zor16s frequency)
+{
+    return static_cast<Zor32f>(frequency) * 0x1p-15f;
+}
 
 template <class T>
 ZorStatus goertzQ15(const T* pSrc, int len, Point<T>* pVal, Zor16s rFreqQ15, int scaleFactor)
 {
-    return goertzScaled(pSrc, len, pVal, scaleFactor, rFreqQ15 * fromQ15);
+    return goertzScaled(pSrc, len, pVal, scaleFactor, fromQ15(rFreqQ15));
 }
 
 // GoertzTwo, the same three. The frequencies are looked at once it is known that they are there.
@@ -91,7 +94,7 @@ template <class T>
 ZorStatus goertzTwoQ15(const T* pSrc, int len, Point<T>* pVal, const Zor16s* pFreqQ15, int scaleFactor)
 {
     if (!pFreqQ15) return zorStsNullPointer;
-    const FrequencyOf<T> frequencies[] = {pFreqQ15[0] * fromQ15, pFreqQ15[1] * fromQ15};
+    const FrequencyOf<T> frequencies[] = {fromQ15(pFreqQ15[0]), fromQ15(pFreqQ15[1])};
     return goertzTwo(pSrc, len, pVal, frequencies, scaleFactor);
 }
 

@@ -13,6 +13,9 @@
 #include "generate/oscillation.h"
 #include "simd/reduce.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace zors::ZORS_VARIANT {
 
 inline constexpr int pointLanes = 16, pointSteps = 64;
@@ -140,6 +143,16 @@ private:
     Sums re_, im_;
 };
 
+// Scalars are put together where the vector would go through the stack, and be waited for.
+template <class T>
+[[gnu::always_inline]] inline Vec<double> loadDoubles(const T* p)
+{
+    if constexpr (sizeof(T) * lanes<double> < 8)
+        return Vec<double>{static_cast<double>(p[0]), static_cast<double>(p[1])};
+    else
+        return toDouble<lanes<double>>(load<lanes<double>>(p));
+}
+
 // Adds so many steps to the sums of some vectors of the pattern, as many as there are registers for. Sample gives a
 // vector of the pattern in a step.
 template <int Vectors, int First, class T, class Sample, int Count>
@@ -192,8 +205,7 @@ void spectrumPoints(const T* pSrc, std::ptrdiff_t len, const double* frequencies
         const auto count = static_cast<int>(std::min(len, blockLength));
         const int steps = count / Point::stepLength, left = count % Point::stepLength * Point::each;
         const auto* last = asLanes(pSrc + len) - pointLanes;
-        addSteps([=](int a, int v) { return toDouble<n>(load<n>(last - a * pointLanes + v * n)); }, 0, steps,
-                 points);
+        addSteps([=](int a, int v) { return loadDoubles(last - a * pointLanes + v * n); }, 0, steps, points);
         if (left > 0) {
             // The first samples of the vector are the last lanes of a step.
             const auto first = [=](int, int v) {
