@@ -12,7 +12,7 @@
 
 namespace zors::ZORS_VARIANT {
 
-// Two vectors as numbers of the type E are made of them; the signal is the longer one.
+// The longer of two vectors, or the first of equal ones, is the signal, the other one the kernel.
 template <class D>
 struct Operands {
     const D *signal, *kernel;
@@ -27,6 +27,7 @@ struct Operands {
     std::ptrdiff_t outputs() const { return signalLen + kernelLen - 1; }
 };
 
+// Outputs of a piece of the kernel at a time, computed in numbers E of data D.
 template <class E, class D>
 class DirectConvolution {
 public:

@@ -59,7 +59,7 @@ ZORSAPI(ZorStatus, zorsConv_16s_Sfs,
         (const Zor16s* pSrc1, int src1Len, const Zor16s* pSrc2, int src2Len, Zor16s* pDst, int scaleFactor))
 /** @} */
 
-/** @name Linear convolution with a buffer
+/** @name Size of the buffer
  * @{
  */
 /**
@@ -78,7 +78,11 @@ ZORSAPI(ZorStatus, zorsConv_16s_Sfs,
  */
 ZORSAPI(ZorStatus, zorsConvolveGetBufferSize,
         (int src1Len, int src2Len, ZorDataType dataType, ZorConvAlgType algType, int* pBufferSize))
+/** @} */
 
+/** @name Linear convolution with a buffer
+ * @{
+ */
 /**
  * The convolution in work memory of the caller. With ZOR_CONV_ALG_AUTO as zorsConv_32f() has it; the other values of
  * @p algType have it direct, or by transforms, whatever the lengths.
