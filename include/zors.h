@@ -5,6 +5,7 @@
  */
 #include <zortypes.h>
 
+#include <zors/filter/convolution.h>
 #include <zors/filter/fir.h>
 #include <zors/filter/fir_design.h>
 #include <zors/filter/fir_direct.h>
@@ -26,6 +27,7 @@
 #include <zors/transform/fft_complex.h>
 #include <zors/transform/fft_real.h>
 #include <zors/transform/fft_spec.h>
+#include <zors/transform/goertzel.h>
 #include <zors/transform/packed.h>
 
 #include <zors/vector/arithmetic.h>

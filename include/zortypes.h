@@ -164,6 +164,25 @@ enum {
     ZOR_FFT_SCALE_NONE = 8  /**< none */
 };
 
+/** How a convolution is computed. */
+typedef Zor32s ZorConvAlgType;
+
+/** The values of @ref ZorConvAlgType. */
+enum {
+    ZOR_CONV_ALG_AUTO = 0,   /**< as the lengths ask for */
+    ZOR_CONV_ALG_DIRECT = 1, /**< by sums of products */
+    ZOR_CONV_ALG_FFT = 2     /**< by fast Fourier transforms */
+};
+
+/** An element type, where a function takes one by number. */
+typedef Zor32s ZorDataType;
+
+/** The values of @ref ZorDataType. */
+enum {
+    zorDataType32f = 13, /**< Zor32f */
+    zorDataType64f = 19  /**< Zor64f */
+};
+
 /** @name Records of fast Fourier transforms
  * Opaque: made by zorsFFTInit or zorsFFTInitAlloc, one type for each kind of data.
  * @{

@@ -51,7 +51,9 @@ void setScalar(const Export& e, const Parameter& p, int length, Value& value, Ra
         *last &= std::byte{0x7f};
         if (nameHas(e, "Tone_")) *last |= std::byte{1}; // nor zero
     } else if (p.name == "rFreq")
-        setBelow(0.5, value.data(), p.size, random);
+        setBelow(nameHas(e, "Tone_") ? 0.5 : 1, value.data(), p.size, random);
+    else if (p.name == "rFreqQ15")
+        value.set(static_cast<Zor16s>(below(0x8000, random)));
     else
         p.randomise(value.data(), 1, random);
 }
@@ -61,6 +63,10 @@ void setVector(const Parameter& p, std::vector<std::byte>& bytes, Random& random
 {
     p.randomise(bytes.data(), bytes.size() / p.size, random);
     if (p.name == "pPhase") setBelow(6.28, bytes.data(), p.size, random);
+    for (std::size_t at = 0; p.name == "pFreq" && at < bytes.size(); at += p.size)
+        setBelow(1, &bytes[at], p.size, random);
+    for (std::size_t at = p.size; p.name == "pFreqQ15" && at <= bytes.size(); at += p.size)
+        bytes[at - 1] &= std::byte{0x7f};
     if (p.name != "pSrcBits") return;
     for (std::size_t at = 0; at < bytes.size(); at += p.size) {
         const Zor32s count = below(9, random); // a byte for each word at the most
@@ -72,6 +78,8 @@ std::size_t vectorBytes(const Call& call, const Parameter& p, int length)
 {
     const Export& e = call.target();
     const auto n = static_cast<std::size_t>(length);
+    for (const auto& two : twoElements)
+        if (e.name.starts_with(two.function) && p.name.starts_with(two.parameter)) return 2 * p.size;
     if (p.role == Role::result) return p.size;
     if (nameHas(e, "_1u")) {
         const bool source = p.role == Role::source;

@@ -21,6 +21,15 @@ inline constexpr Optional optionalPointers[] = {
 // Sources that hold a CCS spectrum of a signal of len points: its first half as complex points, zeros included.
 inline constexpr std::string_view ccsSources[] = {"zorsConjCcs_"};
 
+// Vectors of two elements whatever the length.
+struct TwoElements {
+    std::string_view function, parameter;
+};
+inline constexpr TwoElements twoElements[] = {
+    {"zorsGoertzTwo", "pVal"},
+    {"zorsGoertzTwo", "pFreq"},
+};
+
 // Least lengths other than 1.
 struct LeastLength {
     std::string_view function;
@@ -46,6 +55,8 @@ inline constexpr Forbidden forbidden[] = {
     {"zorsVectorJaehne_", "magn", zorStsBadJaehneMagnitude},
     {"zorsTone_", "magn", zorStsBadToneMagnitude},
     {"zorsTone_", "rFreq", zorStsBadToneFreq},
+    {"zorsGoertz_", "rFreq", zorStsBadRelFreq},
+    {"zorsGoertzQ15_", "rFreqQ15", zorStsBadRelFreq},
     {"zorsDiv_Round_", "rndMode", zorStsBadRoundMode},
     {"zorsConvert_32f16f", "rndMode", zorStsBadRoundMode},
     {"zorsConvert_16s16f", "rndMode", zorStsBadRoundMode},
