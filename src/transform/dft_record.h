@@ -71,6 +71,13 @@ ZORS_DFT_KIND(ZorsDFTSpec_C_16s, DftIntegerKind, 11, ZorsDFTSpec_C_32f)
 ZORS_DFT_KIND(ZorsDFTSpec_R_16s, DftIntegerKind, 12, ZorsDFTSpec_R_32f)
 #undef ZORS_DFT_KIND
 
+// Bytes of an odd number of real points as complex ones.
+template <class T>
+constexpr std::int64_t oddRoomBytes(std::int64_t n)
+{
+    return wholeLines(2 * bytes<T> * n);
+}
+
 // Bytes of the data of an integer kind, converted; CCS of real data has two numbers more.
 template <class Kind>
 constexpr std::int64_t dftConvertedBytes(int n)

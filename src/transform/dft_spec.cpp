@@ -78,8 +78,8 @@ Sizes floatDftSizes(int n)
     } else {
         sizes.init = initBytesOf(none.plan);
         sizes.work = workBytesOf(none.plan);
-        // Odd real data are complex ones.
-        if (Kind::real && n % 2 && none.plan.way != Way::direct) sizes.work += wholeLines(2 * bytes<T> * n);
+        const bool takesPairs = none.plan.way == Way::few || none.plan.way == Way::mixed;
+        if (Kind::real && n % 2 && takesPairs) sizes.work += oddRoomBytes<T>(n);
     }
     return sizes;
 }

@@ -63,64 +63,70 @@ inline void recombineAny(const T* from, T* to, std::ptrdiff_t half, Cx<T> zero, 
     if (half % 2 == 0) putMiddle<Forward>(from + half, to + half);
 }
 
-// Room for an odd number of real points as complex ones, and the plan's behind it.
-template <class T>
-class OddRoom {
-public:
-    OddRoom(const DftRecord<T>& r, T* work)
-        : pairs_(r.n <= mostDirectLength ? short_ : work),
-          work_(r.n <= mostDirectLength ? work : work + wholeLines(2 * bytes<T> * r.n) / bytes<T>)
-    {
-    }
-    T* pairs() const { return pairs_; }
-    T* work() const { return work_; }
-
-private:
-    static constexpr int mostDirectLength = 2 * mostDirectHalf + 1;
-    alignas(lineBytes) T short_[2 * mostDirectLength];
-    T* pairs_;
-    T* work_;
-};
-
-// Points 1, 2, ... of the spectrum stand behind the real number of point 0, or behind a pair.
+// Points 1, 2, ... of an odd spectrum stand behind the real number of point 0, or behind a pair.
 template <Packing packing>
 inline constexpr std::ptrdiff_t firstOddPair = packing == Packing::ccs ? 2 : 1;
 
+// Odd numbers of real points as complex ones, of which only a half of the spectrum is kept.
 template <Packing packing, class T>
-inline void oddForward(const DftRecord<T>& r, const T* src, T* dst, T* work)
-{
-    const std::ptrdiff_t n = r.n;
-    const OddRoom<T> room(r, work);
-    T* pairs = room.pairs();
-    for (std::ptrdiff_t i = 0; i < n; ++i) pairs[2 * i] = src[i], pairs[2 * i + 1] = 0;
-    dftOfPairs(r.plan, pairs, pairs, false, factorOf(r, false), room.work());
-    dst[0] = pairs[0];
-    if constexpr (packing == Packing::ccs) dst[1] = 0;
-    std::copy_n(pairs + 2, n - 1, dst + firstOddPair<packing>);
-}
+struct OddForward {
+    const T* src;
+    T* dst;
+    std::ptrdiff_t n;
+
+    Cx<T> get(std::ptrdiff_t i) const { return {src[i], 0}; }
+    void put(std::ptrdiff_t k, Cx<T> v) const
+    {
+        if (k > n / 2) return;
+        T* to = dst + firstOddPair<packing> + 2 * (k - 1);
+        if (k > 0) to[0] = v.re, to[1] = v.im;
+        if (k == 0) dst[0] = v.re;
+        if (k == 0 && packing == Packing::ccs) dst[1] = 0;
+    }
+};
 
 template <Packing packing, class T>
-inline void oddInverse(const DftRecord<T>& r, const T* src, T* dst, T* work)
-{
-    const std::ptrdiff_t n = r.n;
-    const OddRoom<T> room(r, work);
-    T* pairs = room.pairs();
-    pairs[0] = src[0], pairs[1] = 0;
-    for (std::ptrdiff_t k = 1; k <= n / 2; ++k) {
-        const T* from = src + firstOddPair<packing> + 2 * (k - 1);
-        pairs[2 * k] = pairs[2 * (n - k)] = from[0];
-        pairs[2 * k + 1] = from[1];
-        pairs[2 * (n - k) + 1] = -from[1];
+struct OddInverse {
+    const T* src;
+    T* dst;
+    std::ptrdiff_t n;
+
+    Cx<T> get(std::ptrdiff_t k) const
+    {
+        if (k == 0) return {src[0], 0};
+        const T* from = src + firstOddPair<packing> + 2 * ((k > n / 2 ? n - k : k) - 1);
+        return {from[0], k > n / 2 ? -from[1] : from[1]};
     }
-    dftOfPairs(r.plan, pairs, pairs, true, factorOf(r, true), room.work());
-    for (std::ptrdiff_t i = 0; i < n; ++i) dst[i] = pairs[2 * i];
+    void put(std::ptrdiff_t i, Cx<T> v) const { dst[i] = v.re; }
+};
+
+// Passes need the points side by side; the other ways take them one by one.
+template <class T, class Arrays>
+inline void oddTransform(const DftRecord<T>& r, const Arrays& io, bool inverse, T* work)
+{
+    const DftPlan<T>& plan = r.plan;
+    const T* factor = factorOf(r, inverse);
+    const Ends<T> ends(inverse, factor);
+    switch (plan.way) {
+    case Way::short_:
+        return shortDft(plan.n, io, ends);
+    case Way::direct:
+        return directDft(plan, io, ends);
+    case Way::chirp:
+        return chirpDft(plan, io, ends, work);
+    default:
+        const PairedArrays<T, false> own{work, work};
+        for (std::ptrdiff_t i = 0; i < r.n; ++i) own.put(i, io.get(i));
+        dftOfPairs<T>(plan, work, work, inverse, factor, work + oddRoomBytes<T>(r.n) / bytes<T>);
+        for (std::ptrdiff_t i = 0; i < r.n; ++i) io.put(i, own.get(i));
+    }
 }
 
 template <Packing packing, class T>
 inline void realDftForward(const DftRecord<T>& r, const T* src, T* dst, T* work)
 {
     if (r.power) return realForward<packing>(*r.power, src, dst, work);
-    if (r.n % 2) return oddForward<packing>(r, src, dst, work);
+    if (r.n % 2) return oddTransform(r, OddForward<packing, T>{src, dst, r.n}, false, work);
     dftOfPairs(r.plan, src, dst, false, factorOf(r, false), work);
     recombineAny<true>(dst, dst, r.n / 2, {dst[0] + dst[1], dst[0] - dst[1]}, r.forwardFactors);
     pack<packing>(r.n, dst);
@@ -130,7 +136,7 @@ template <Packing packing, class T>
 inline void realDftInverse(const DftRecord<T>& r, const T* src, T* dst, T* work)
 {
     if (r.power) return realInverse<packing>(*r.power, src, dst, work);
-    if (r.n % 2) return oddInverse<packing>(r, src, dst, work);
+    if (r.n % 2) return oddTransform(r, OddInverse<packing, T>{src, dst, r.n}, true, work);
     const std::ptrdiff_t n = r.n;
     const T first = src[0], last = src[packing == Packing::ccs ? n : packing == Packing::pack ? n - 1 : 1];
     if constexpr (packing == Packing::pack) {

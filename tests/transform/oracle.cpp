@@ -53,7 +53,7 @@ WideVector dft(const WideVector& x)
 
 WideVector dftOfAnyLength(const WideVector& x)
 {
-    const std::size_t n = x.size(), few = 2048;
+    const std::size_t n = x.size(), few = 100;
     WideVector turns(2 * n); // e^(-pi i k / n)
     for (std::size_t k = 0; k < turns.size(); ++k) {
         const Wide angle = std::numbers::pi_v<Wide> * static_cast<Wide>(k) / static_cast<Wide>(n);
