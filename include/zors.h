@@ -24,6 +24,9 @@
 #include <zors/generate/tone.h>
 #include <zors/generate/windows.h>
 
+#include <zors/transform/dft.h>
+#include <zors/transform/dft_out_of_order.h>
+#include <zors/transform/dft_spec.h>
 #include <zors/transform/fft_complex.h>
 #include <zors/transform/fft_real.h>
 #include <zors/transform/fft_spec.h>

@@ -202,6 +202,23 @@ typedef struct ZorsFFTSpec_R_32s ZorsFFTSpec_R_32s;       /**< real `32s` */
 typedef struct ZorsFFTSpec_R_16s32s ZorsFFTSpec_R_16s32s; /**< real `16s`, spectrum `32s` */
 /** @} */
 
+/** @name Records of discrete Fourier transforms of any length
+ * Opaque: made by zorsDFTInit, zorsDFTInitAlloc or zorsDFTOutOrdInitAlloc, one type for each kind of data.
+ * @{
+ */
+typedef struct ZorsDFTSpec_C_16sc ZorsDFTSpec_C_16sc;             /**< complex `16sc` */
+typedef struct ZorsDFTSpec_C_16s ZorsDFTSpec_C_16s;               /**< complex, parts apart, `16s` */
+typedef struct ZorsDFTSpec_R_16s ZorsDFTSpec_R_16s;               /**< real `16s` */
+typedef struct ZorsDFTSpec_C_32fc ZorsDFTSpec_C_32fc;             /**< complex `32fc` */
+typedef struct ZorsDFTSpec_C_32f ZorsDFTSpec_C_32f;               /**< complex, parts apart, `32f` */
+typedef struct ZorsDFTSpec_R_32f ZorsDFTSpec_R_32f;               /**< real `32f` */
+typedef struct ZorsDFTSpec_C_64fc ZorsDFTSpec_C_64fc;             /**< complex `64fc` */
+typedef struct ZorsDFTSpec_C_64f ZorsDFTSpec_C_64f;               /**< complex, parts apart, `64f` */
+typedef struct ZorsDFTSpec_R_64f ZorsDFTSpec_R_64f;               /**< real `64f` */
+typedef struct ZorsDFTOutOrdSpec_C_32fc ZorsDFTOutOrdSpec_C_32fc; /**< complex `32fc`, spectra out of order */
+typedef struct ZorsDFTOutOrdSpec_C_64fc ZorsDFTOutOrdSpec_C_64fc; /**< complex `64fc`, spectra out of order */
+/** @} */
+
 /** @name Records of finite impulse response filters
  * Opaque, one type for each pair of taps and data: of single-rate, multi-rate and stream filters alike.
  * @{

@@ -137,7 +137,7 @@ template <int S, class V>
 // The transform of the points that take(t) puts into x[t]. Each is taken just before it is used: compilers keep the
 // order of the source, and with all of them taken first they run out of registers.
 template <int R, class V, class Take>
-[[gnu::always_inline]] inline void dft(Cx<V> (&x)[R], Take take)
+requires((R & (R - 1)) == 0) [[gnu::always_inline]] inline void dft(Cx<V> (&x)[R], Take take)
 {
     if constexpr (R <= 4) {
 #pragma GCC unroll 4

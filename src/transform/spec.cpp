@@ -1,8 +1,5 @@
 #include "spec.h"
 #include "frame/bind.h"
-#include "simd/check.h"
-
-#include <zorcore.h>
 
 namespace zors::ZORS_VARIANT {
 namespace {
@@ -51,15 +48,7 @@ Sizes sizesOf(int order)
 template <class Kind>
 bool reaches(int order)
 {
-    constexpr std::int64_t most = INT32_MAX - lineBytes;
-    if (order > FloatingOf<Kind>::type::mostOrder) return false;
-    const Sizes sizes = sizesOf<Kind>(order);
-    return sizes.spec <= most && sizes.init <= most && sizes.work <= most;
-}
-
-int withSlack(std::int64_t bytes)
-{
-    return static_cast<int>(bytes > 0 ? bytes + lineBytes : 0);
+    return order <= FloatingOf<Kind>::type::mostOrder && canBeTold(sizesOf<Kind>(order));
 }
 
 template <class Spec>
@@ -71,10 +60,7 @@ ZorStatus getSize(int order, int flag, ZorHintAlgorithm, int* pSpecSize, int* pI
                   require(isFlag(flag), zorStsBadFftFlag)))
         return bad;
     if (!reaches<Kind>(order)) return zorStsBadFftOrder;
-    const Sizes sizes = sizesOf<Kind>(order);
-    *pSpecSize = static_cast<int>(sizes.spec);
-    *pInitSize = withSlack(sizes.init);
-    *pBufferSize = withSlack(sizes.work);
+    tell(sizesOf<Kind>(order), pSpecSize, pInitSize, pBufferSize);
     return zorStsOk;
 }
 
@@ -145,16 +131,6 @@ ZorStatus init(Spec** ppSpec, int order, int flag, ZorHintAlgorithm hint, Zor8u*
     return zorStsOk;
 }
 
-// Where a record keeps the block that is to be freed with it.
-template <class Kind>
-void*& blockOf(typename Kind::Record& r)
-{
-    if constexpr (std::is_same_v<typename Kind::Record, WideRecord>)
-        return static_cast<typename FloatingOf<Kind>::type::Record*>(r.nested)->block;
-    else
-        return r.block;
-}
-
 template <class Spec>
 ZorStatus initAlloc(Spec** ppSpec, int order, int flag, ZorHintAlgorithm hint)
 {
@@ -162,43 +138,9 @@ ZorStatus initAlloc(Spec** ppSpec, int order, int flag, ZorHintAlgorithm hint)
     int specSize = 0, initSize = 0, bufferSize = 0;
     if (const ZorStatus bad = pointers(ppSpec)) return bad;
     if (const ZorStatus bad = getSize<Spec>(order, flag, hint, &specSize, &initSize, &bufferSize)) return bad;
-    auto* block = static_cast<Zor8u*>(zorMalloc(specSize));
-    auto* scratch = static_cast<Zor8u*>(initSize > 0 ? zorMalloc(initSize) : nullptr);
-    if (!block || (initSize > 0 && !scratch)) {
-        zorFree(block);
-        zorFree(scratch);
-        return zorStsNoMemory;
-    }
-    Zor8u* memory = aligned(block);
-    const ZorStatus status = build<Kind>(order, flag, hint, memory, scratch);
-    zorFree(scratch);
-    if (status != zorStsOk) {
-        zorFree(block);
-        return status;
-    }
-    auto& r = *reinterpret_cast<typename Kind::Record*>(memory);
-    r.owned = 1;
-    blockOf<Kind>(r) = block;
-    *ppSpec = reinterpret_cast<Spec*>(memory);
-    return zorStsOk;
-}
-
-template <class Spec>
-ZorStatus release(Spec* pSpec)
-{
-    if (const ZorStatus bad = record(pSpec)) return bad;
-    auto& r = *recordOf(pSpec);
-    r.tag = 0;
-    if (r.owned == 1) zorFree(blockOf<KindOf<Spec>>(r));
-    return zorStsOk;
-}
-
-template <class Spec>
-ZorStatus getBufSize(const Spec* pSpec, int* pBufferSize)
-{
-    if (const ZorStatus bad = check(record(pSpec), pointers(pBufferSize))) return bad;
-    *pBufferSize = withSlack(recordOf(pSpec)->workSize);
-    return zorStsOk;
+    return allocated(ppSpec, sizesOf<Kind>(order), [=](void* memory, Zor8u* scratch) {
+        return build<Kind>(order, flag, hint, memory, scratch);
+    });
 }
 
 } // namespace

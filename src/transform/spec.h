@@ -2,7 +2,7 @@
 #pragma once
 
 #include "engine.h"
-#include "layout.h"
+#include "lifecycle.h"
 #include "recombine.h"
 
 #include <algorithm>
@@ -11,12 +11,6 @@
 #include <type_traits>
 
 namespace zors::ZORS_VARIANT {
-
-struct Sizes {
-    std::int64_t spec; // with room to align
-    std::int64_t init; // the others without
-    std::int64_t work;
-};
 
 inline bool isFlag(int flag)
 {
@@ -118,16 +112,16 @@ inline void fillTables(int order, typename Kind::Record& r, typename Kind::Numbe
     if (r.ccsFactors) fillRecombination<false>(order, wave, r.ccsFactors);
 }
 
-template <class T>
-inline void setScale(FloatRecord<T>& r, int order, int flag)
+template <class Record>
+inline void setScale(Record& r, std::int64_t n, int flag)
 {
+    using T = decltype(r.factor);
     r.scalesForward = flag == ZOR_FFT_SCALE_FWD || flag == ZOR_FFT_SCALE_SQRT;
     r.scalesInverse = flag == ZOR_FFT_SCALE_INV || flag == ZOR_FFT_SCALE_SQRT;
-    const double n = static_cast<double>(std::int64_t{1} << order);
     if (flag == ZOR_FFT_SCALE_SQRT)
-        r.factor = static_cast<T>(1 / std::sqrt(n));
+        r.factor = static_cast<T>(1 / std::sqrt(static_cast<double>(n)));
     else if (flag != ZOR_FFT_SCALE_NONE)
-        r.factor = static_cast<T>(1 / n);
+        r.factor = 1 / static_cast<T>(n);
 }
 
 // Builds a record in aligned memory; the order is valid for the kind.
@@ -145,7 +139,7 @@ inline ZorStatus buildFloat(int order, int flag, ZorHintAlgorithm hint, void* me
     r.order = order;
     r.hint = hint;
     r.workSize = static_cast<Zor32s>(sizes.work);
-    setScale(r, order, flag);
+    setScale(r, std::int64_t{1} << order, flag);
     Layout placing(memory);
     layOut<Kind>(placing, order, r);
     T short_[(1 << (firstOrderWithInit - 3)) + 1];

@@ -28,8 +28,8 @@ const std::vector<Sample>& samplesFor(const Transform& t, int order)
     std::vector<Sample>& samples = all[{t.in.format, t.in.number, t.inverse}];
     Random random;
     while (static_cast<int>(samples.size()) < RelativeError::samples(order)) {
-        const auto input = randomNumbers(t.in, order, random);
-        const WideVector forward = dft(pointsFrom(input, t.in.format, order));
+        const auto input = randomNumbers(t.in, pointsOf(order), random);
+        const WideVector forward = dft(pointsFrom(input, t.in.format, pointsOf(order)));
         samples.push_back({input, t.inverse ? inverseFromForward(forward) : forward});
     }
     return samples;
@@ -38,19 +38,20 @@ const std::vector<Sample>& samplesFor(const Transform& t, int order)
 std::vector<Wide> run(const Transform& t, const Spec& spec, const std::vector<Wide>& input, int order,
                       int scaleFactor)
 {
-    Memory in(t.in.bytes(order)), out(t.out.bytes(order));
+    Memory in(t.in.bytes(pointsOf(order))), out(t.out.bytes(pointsOf(order)));
     writeNumbers(input, t.in.number, in.get());
-    EXPECT_EQ(t.run(in.get(), out.get(), spec.get(), order, scaleFactor, nullptr), zorStsOk);
-    return readNumbers(out.get(), t.out.number, t.out.numbers(order));
+    EXPECT_EQ(t.run(in.get(), out.get(), spec.get(), pointsOf(order), scaleFactor, nullptr), zorStsOk);
+    return readNumbers(out.get(), t.out.number, t.out.numbers(pointsOf(order)));
 }
 
 double errorOf(const Transform& t, int order, int flag)
 {
     const Spec spec(*t.kind, order, flag);
-    const Wide factor = factorOf(flag, t.inverse, order);
+    const Wide factor = factorOf(flag, t.inverse, pointsOf(order));
     RelativeError error;
     for (const Sample& sample : samplesFor(t, order)) {
-        const WideVector got = pointsFrom(run(t, spec, sample.input, order, 0), t.out.format, order);
+        const WideVector got =
+            pointsFrom(run(t, spec, sample.input, order, 0), t.out.format, pointsOf(order));
         WideVector expected = sample.expected;
         for (auto& p : expected) p *= factor;
         error.add(got, expected);
@@ -73,7 +74,7 @@ TEST(Accuracy, FloatingTransforms)
                 if (order > 14 && flag != ZOR_FFT_SCALE_SQRT && flag != ZOR_FFT_SCALE_NONE) continue;
                 if (order > 18 && flag != ZOR_FFT_SCALE_NONE) continue;
                 const double error = errorOf(t, order, flag);
-                const double more = factorOf(flag, t.inverse, order) == 1 ? 0 : roundingOfFactor;
+                const double more = factorOf(flag, t.inverse, pointsOf(order)) == 1 ? 0 : roundingOfFactor;
                 const double unit = std::sqrt(order);
                 EXPECT_LE(error, bound * unit + more) << t.name << ", order " << order << ", flag " << flag;
                 if (order > 0 && more == 0) worst[t.name] = std::max(worst[t.name], error / unit);
@@ -98,7 +99,7 @@ TEST(Accuracy, IntegerTransforms)
             for (const int flag : flags) {
                 const Spec spec(*t.kind, order, flag);
                 for (const int scaleFactor : {0, order, order / 2 + 1, order - 20, 40}) {
-                    const Wide factor = std::ldexp(factorOf(flag, t.inverse, order), -scaleFactor);
+                    const Wide factor = std::ldexp(factorOf(flag, t.inverse, pointsOf(order)), -scaleFactor);
                     // No single error is ten times the root mean square.
                     const Wide slack = 0.5L + 10 * (bound * order + roundingOfFactor) *
                                                   static_cast<Wide>(t.epsilon()) * size * factor;

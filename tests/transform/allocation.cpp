@@ -45,26 +45,28 @@ TEST(Allocation, TransformsAllocateOnlyForANullBuffer)
             allocator = {};
             const Spec spec(*t.kind, order);
             const Sizes sizes = sizesOf(*t.kind, order);
-            const Memory in = randomInput(t, order, random);
-            Memory out(t.out.bytes(order)), work(static_cast<std::size_t>(sizes.work));
-            std::memset(out.get(), 0x77, t.out.bytes(order));
+            const Memory in = randomInput(t, pointsOf(order), random);
+            Memory out(t.out.bytes(pointsOf(order))), work(static_cast<std::size_t>(sizes.work));
+            std::memset(out.get(), 0x77, t.out.bytes(pointsOf(order)));
             const std::size_t before = allocator.live.size();
 
             allocator.sizesAsked.clear();
-            ASSERT_EQ(t.run(in.get(), out.get(), spec.get(), order, 0, static_cast<Zor8u*>(work.get())),
-                      zorStsOk);
+            ASSERT_EQ(
+                t.run(in.get(), out.get(), spec.get(), pointsOf(order), 0, static_cast<Zor8u*>(work.get())),
+                zorStsOk);
             EXPECT_TRUE(allocator.sizesAsked.empty());
-            EXPECT_EQ(t.run(in.get(), out.get(), spec.get(), order, 0, nullptr), zorStsOk);
+            EXPECT_EQ(t.run(in.get(), out.get(), spec.get(), pointsOf(order), 0, nullptr), zorStsOk);
             EXPECT_EQ(allocator.sizesAsked.size(), sizes.work > 0 ? 1U : 0U);
             EXPECT_EQ(allocator.live.size(), before);
             if (sizes.work == 0) continue;
 
-            std::memset(out.get(), 0x77, t.out.bytes(order));
+            std::memset(out.get(), 0x77, t.out.bytes(pointsOf(order)));
             allocator.untilFailure = 0;
-            EXPECT_EQ(t.run(in.get(), out.get(), spec.get(), order, 0, nullptr), zorStsNoMemory);
+            EXPECT_EQ(t.run(in.get(), out.get(), spec.get(), pointsOf(order), 0, nullptr), zorStsNoMemory);
             allocator.untilFailure = -1;
             const auto* bytes = static_cast<const unsigned char*>(out.get());
-            EXPECT_TRUE(std::all_of(bytes, bytes + t.out.bytes(order), [](int b) { return b == 0x77; }));
+            EXPECT_TRUE(
+                std::all_of(bytes, bytes + t.out.bytes(pointsOf(order)), [](int b) { return b == 0x77; }));
             EXPECT_EQ(allocator.live.size(), before);
         }
 }

@@ -45,20 +45,20 @@ void runGuarded(const Transform& t, int order, int flag, bool atEnd)
     std::vector<Zor8u> before(memory.get(), memory.get() + sizes.spec);
 
     Random random;
-    Guarded src(t.in.bytes(order), atEnd), dst(t.out.bytes(order), atEnd);
-    writeNumbers(randomNumbers(t.in, order, random), t.in.number, src.get());
-    std::vector<Zor8u> input(src.get(), src.get() + t.in.bytes(order));
-    ASSERT_EQ(t.run(src.get(), dst.get(), spec, order, 3, orNull(work, sizes.work)), zorStsOk);
+    Guarded src(t.in.bytes(pointsOf(order)), atEnd), dst(t.out.bytes(pointsOf(order)), atEnd);
+    writeNumbers(randomNumbers(t.in, pointsOf(order), random), t.in.number, src.get());
+    std::vector<Zor8u> input(src.get(), src.get() + t.in.bytes(pointsOf(order)));
+    ASSERT_EQ(t.run(src.get(), dst.get(), spec, pointsOf(order), 3, orNull(work, sizes.work)), zorStsOk);
     EXPECT_TRUE(src.intact() && dst.intact() && work.intact() && memory.intact());
     EXPECT_EQ(std::memcmp(src.get(), input.data(), input.size()), 0) << "the source was changed";
     EXPECT_EQ(std::memcmp(memory.get(), before.data(), before.size()), 0) << "the record was changed";
 
     if (!t.runInPlace) return;
-    Guarded both(std::max(t.in.bytes(order), t.out.bytes(order)), atEnd);
+    Guarded both(std::max(t.in.bytes(pointsOf(order)), t.out.bytes(pointsOf(order))), atEnd);
     std::memcpy(both.get(), input.data(), input.size());
-    ASSERT_EQ(t.runInPlace(both.get(), spec, order, 3, orNull(work, sizes.work)), zorStsOk);
+    ASSERT_EQ(t.runInPlace(both.get(), spec, pointsOf(order), 3, orNull(work, sizes.work)), zorStsOk);
     EXPECT_TRUE(both.intact() && work.intact());
-    EXPECT_EQ(std::memcmp(both.get(), dst.get(), t.out.bytes(order)), 0);
+    EXPECT_EQ(std::memcmp(both.get(), dst.get(), t.out.bytes(pointsOf(order))), 0);
 }
 
 TEST(Guards, NothingBesideTheMemoryIsTouched)
@@ -72,7 +72,7 @@ TEST(Guards, NothingBesideTheMemoryIsTouched)
                     SCOPED_TRACE(t.name + ", order " + std::to_string(order));
                     runGuarded(t, order, flag, atEnd);
                     if (HasFailure()) return;
-                    compared(static_cast<long long>(t.out.numbers(order)));
+                    compared(static_cast<long long>(t.out.numbers(pointsOf(order))));
                 }
 }
 

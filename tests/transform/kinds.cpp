@@ -55,11 +55,46 @@ const std::vector<Kind>& kinds()
     return all;
 }
 
-const Kind& kind(const std::string& name)
+#define ZORS_LENGTH_KIND(kind, tag)                                                                          \
+    makeKind<zorsDFTGetSize_##kind, zorsDFTInit_##kind, zorsDFTInitAlloc_##kind, zorsDFTFree_##kind,         \
+             zorsDFTGetBufSize_##kind>(#kind, tag, 0)
+#define ZORS_OUT_OF_ORDER_KIND(kind, tag)                                                                    \
+    Kind                                                                                                     \
+    {                                                                                                        \
+        "OutOrd_" #kind, tag, 0, nullptr, nullptr, call<zorsDFTOutOrdInitAlloc_##kind>,                      \
+            call<zorsDFTOutOrdFree_##kind>, call<zorsDFTOutOrdGetBufSize_##kind>                             \
+    }
+
+const std::vector<Kind>& kindsOfAnyLength()
 {
-    for (const Kind& k : kinds())
+    static const std::vector<Kind> all = {
+        ZORS_LENGTH_KIND(C_16sc, 10),       ZORS_LENGTH_KIND(C_16s, 11),        ZORS_LENGTH_KIND(R_16s, 12),
+        ZORS_LENGTH_KIND(C_32fc, 13),       ZORS_LENGTH_KIND(C_32f, 14),        ZORS_LENGTH_KIND(R_32f, 15),
+        ZORS_LENGTH_KIND(C_64fc, 16),       ZORS_LENGTH_KIND(C_64f, 17),        ZORS_LENGTH_KIND(R_64f, 18),
+        ZORS_OUT_OF_ORDER_KIND(C_32fc, 25), ZORS_OUT_OF_ORDER_KIND(C_64fc, 26),
+    };
+    return all;
+}
+
+namespace {
+
+const Kind& found(const std::vector<Kind>& kinds, const std::string& name)
+{
+    for (const Kind& k : kinds)
         if (k.name == name) return k;
     throw std::out_of_range(name);
+}
+
+} // namespace
+
+const Kind& kind(const std::string& name)
+{
+    return found(kinds(), name);
+}
+
+const Kind& kindOfAnyLength(const std::string& name)
+{
+    return found(kindsOfAnyLength(), name);
 }
 
 Sizes sizesOf(const Kind& kind, int order, int flag)

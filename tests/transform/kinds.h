@@ -28,6 +28,10 @@ struct Kind {
 const std::vector<Kind>& kinds();
 const Kind& kind(const std::string& name);
 
+// Those of any length, which they take in the place of an order.
+const std::vector<Kind>& kindsOfAnyLength();
+const Kind& kindOfAnyLength(const std::string& name);
+
 // The sizes of a kind that must exist.
 Sizes sizesOf(const Kind& kind, int order, int flag = ZOR_FFT_SCALE_NONE);
 

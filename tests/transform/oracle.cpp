@@ -51,6 +51,37 @@ WideVector dft(const WideVector& x)
     return out;
 }
 
+WideVector dftOfAnyLength(const WideVector& x)
+{
+    const std::size_t n = x.size(), few = 100;
+    WideVector turns(2 * n); // e^(-pi i k / n)
+    for (std::size_t k = 0; k < turns.size(); ++k) {
+        const Wide angle = std::numbers::pi_v<Wide> * static_cast<Wide>(k) / static_cast<Wide>(n);
+        turns[k] = {std::cos(angle), -std::sin(angle)};
+    }
+    WideVector out(n);
+    if (n <= few) {
+        for (std::size_t k = 0; k < n; ++k)
+            for (std::size_t j = 0; j < n; ++j) out[k] += product(x[j], turns[2 * (j * k % n)]);
+        return out;
+    }
+    // 2 j k = j^2 + k^2 - (k - j)^2
+    std::size_t length = 1;
+    while (length < 2 * n) length *= 2;
+    WideVector a(length), b(length);
+    for (std::size_t j = 0; j < n; ++j) {
+        const WideComplex chirp = turns[j * j % (2 * n)];
+        a[j] = product(x[j], chirp);
+        b[j] = b[(length - j) % length] = std::conj(chirp);
+    }
+    a = dft(a), b = dft(b);
+    for (std::size_t k = 0; k < length; ++k) a[k] = product(a[k], b[k]);
+    a = inverseFromForward(dft(a));
+    for (std::size_t k = 0; k < n; ++k)
+        out[k] = product(a[k], turns[k * k % (2 * n)]) / static_cast<Wide>(length);
+    return out;
+}
+
 WideVector inverseFromForward(const WideVector& forward)
 {
     WideVector out(forward.size());

@@ -13,6 +13,9 @@ using WideVector = std::vector<WideComplex>;
 // X[k] = sum over j of x[j] e^(-2 pi i j k / N), N a power of two.
 WideVector dft(const WideVector& x);
 
+// The same of any number of points: few by the definition, many as a convolution.
+WideVector dftOfAnyLength(const WideVector& x);
+
 // The same with e^(2 pi i j k / N), from what dft gave.
 WideVector inverseFromForward(const WideVector& forward);
 

@@ -56,21 +56,34 @@ struct Arguments {
 };
 
 template <auto function>
-ZorStatus run(const void* src, void* dst, const void* spec, int order, int scaleFactor, Zor8u* buffer)
+ZorStatus run(const void* src, void* dst, const void* spec, std::size_t n, int scaleFactor, Zor8u* buffer)
 {
-    return Arguments{src, dst, spec, std::ptrdiff_t{1} << order, scaleFactor, buffer}.call(function);
+    return Arguments{src, dst, spec, static_cast<std::ptrdiff_t>(n), scaleFactor, buffer}.call(function);
 }
 
 template <auto function>
-ZorStatus runInPlace(void* data, const void* spec, int order, int scaleFactor, Zor8u* buffer)
+ZorStatus runInPlace(void* data, const void* spec, std::size_t n, int scaleFactor, Zor8u* buffer)
 {
-    return run<function>(nullptr, data, spec, order, scaleFactor, buffer);
+    return run<function>(nullptr, data, spec, n, scaleFactor, buffer);
+}
+
+// The source is the destination.
+template <auto function>
+ZorStatus runOnDestination(void* data, const void* spec, std::size_t n, int scaleFactor, Zor8u* buffer)
+{
+    return run<function>(data, data, spec, n, scaleFactor, buffer);
 }
 
 template <auto function, auto inPlace>
 Transform makeTransform(const char* name, const char* record, bool inverse, Side in, Side out)
 {
     return {name, &kind(record), inverse, in, out, run<function>, runInPlace<inPlace>};
+}
+
+template <auto function>
+Transform makeTransform(const char* name, const char* record, bool inverse, Side in, Side out)
+{
+    return {name, &kindOfAnyLength(record), inverse, in, out, run<function>, runOnDestination<function>};
 }
 
 } // namespace
@@ -111,9 +124,9 @@ std::vector<Wide> numbersFrom(const WideVector& points, Format format)
     return numbers;
 }
 
-WideVector pointsFrom(const std::vector<Wide>& numbers, Format format, int order)
+WideVector pointsFrom(const std::vector<Wide>& numbers, Format format, std::size_t n)
 {
-    const Places at{format, std::size_t{1} << order};
+    const Places at{format, n};
     WideVector points(at.n);
     for (std::size_t k = 0; k < at.points(); ++k) {
         points[k] = {numbers[at.real(k)], at.hasImaginary(k) ? numbers[at.imaginary(k)] : 0};
@@ -178,6 +191,34 @@ const std::vector<Transform>& transforms()
         ZORS_REAL(32s, int32, _Sfs, _ISfs),
         Transform{"Fwd_RToCCS_16s32s", &mixed, false, words, ccs, run<zorsFFTFwd_RToCCS_16s32s_Sfs>, nullptr},
         Transform{"Inv_CCSToR_32s16s", &mixed, true, ccs, words, run<zorsFFTInv_CCSToR_32s16s_Sfs>, nullptr},
+    };
+    return all;
+}
+
+#undef ZORS_ONE
+#define ZORS_ONE(name, record, inverse, from, to, type, number, suffix)                                      \
+    makeTransform<zorsDFT##name##_##type##suffix>(#name "_" #type, #record "_" #type, inverse,               \
+                                                  {Format::from, Number::number},                            \
+                                                  {Format::to, Number::number})
+
+const std::vector<Transform>& transformsOfAnyLength()
+{
+    static const std::vector<Transform> all = {
+        ZORS_COMPLEX(pairs, 32fc, float32, ),
+        ZORS_COMPLEX(pairs, 64fc, float64, ),
+        ZORS_COMPLEX(split, 32f, float32, ),
+        ZORS_COMPLEX(split, 64f, float64, ),
+        ZORS_REAL(32f, float32, ),
+        ZORS_REAL(64f, float64, ),
+        ZORS_COMPLEX(pairs, 16sc, int16, _Sfs),
+        ZORS_COMPLEX(split, 16s, int16, _Sfs),
+        ZORS_REAL(16s, int16, _Sfs),
+        makeTransform<zorsDFTOutOrdFwd_CToC_32fc>("OutOrdFwd_32fc", "OutOrd_C_32fc", false,
+                                                  {Format::pairs, Number::float32},
+                                                  {Format::pairs, Number::float32}),
+        makeTransform<zorsDFTOutOrdInv_CToC_64fc>("OutOrdInv_64fc", "OutOrd_C_64fc", true,
+                                                  {Format::pairs, Number::float64},
+                                                  {Format::pairs, Number::float64}),
     };
     return all;
 }

@@ -38,8 +38,8 @@ struct Side {
     Format format;
     Number number;
 
-    std::size_t numbers(int order) const { return Places{format, std::size_t{1} << order}.numbers(); }
-    std::size_t bytes(int order) const { return numbers(order) * bytesOf(number); }
+    std::size_t numbers(std::size_t n) const { return Places{format, n}.numbers(); }
+    std::size_t bytes(std::size_t n) const { return numbers(n) * bytesOf(number); }
 };
 
 struct Transform {
@@ -47,21 +47,30 @@ struct Transform {
     const Kind* kind;
     bool inverse;
     Side in, out;
-    // The scale factor is for the integers.
-    ZorStatus (*run)(const void* src, void* dst, const void* spec, int order, int scaleFactor, Zor8u* buffer);
-    ZorStatus (*runInPlace)(void* data, const void* spec, int order, int scaleFactor,
+    // Of N points; the scale factor is for the integers.
+    ZorStatus (*run)(const void* src, void* dst, const void* spec, std::size_t n, int scaleFactor,
+                     Zor8u* buffer);
+    ZorStatus (*runInPlace)(void* data, const void* spec, std::size_t n, int scaleFactor,
                             Zor8u* buffer); // or null
 
     // What the transform computes with: 2^-23 or 2^-52.
     double epsilon() const;
 };
 
+// Of powers of two.
 const std::vector<Transform>& transforms();
+// Of any length; those without a form in place work in place by the other one.
+const std::vector<Transform>& transformsOfAnyLength();
+
+constexpr std::size_t pointsOf(int order)
+{
+    return std::size_t{1} << order;
+}
 
 // All N points from and to the numbers of a format. Real numbers are points without imaginary parts; a spectrum's
 // second half is the mirror of its first.
 std::vector<Wide> numbersFrom(const WideVector& points, Format format);
-WideVector pointsFrom(const std::vector<Wide>& numbers, Format format, int order);
+WideVector pointsFrom(const std::vector<Wide>& numbers, Format format, std::size_t n);
 
 // Numbers as they lie in memory, and back. Integers are rounded and saturated.
 void writeNumbers(const std::vector<Wide>& numbers, Number number, void* memory);
