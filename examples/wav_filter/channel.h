@@ -6,7 +6,6 @@
 
 #include <zors.h>
 
-#include <algorithm>
 #include <memory>
 #include <vector>
 
@@ -84,22 +83,12 @@ public:
     void filter(const Sample* source, std::vector<Sample>& result, int iterations)
     {
         example::require(Fir<Sample>::filter(source, result.data(), iterations, fir_.get()), "filter");
-        for (const auto& state : iir_) filterInPlace(result, *state);
+        const auto len = static_cast<int>(result.size());
+        for (const auto& state : iir_)
+            example::require(Iir<Sample>::filter(result.data(), len, state.get()), "filter");
     }
 
 private:
-    // Longer calls go by steps of 16 samples: high orders with a low cut-off, whose taps nearly cancel, lose their
-    // digits there.
-    static constexpr std::size_t sampleBySample = 15;
-
-    static void filterInPlace(std::vector<Sample>& samples, typename Iir<Sample>::State& state)
-    {
-        for (std::size_t begin = 0; begin < samples.size(); begin += sampleBySample) {
-            const auto len = static_cast<int>(std::min(sampleBySample, samples.size() - begin));
-            example::require(Iir<Sample>::filter(samples.data() + begin, len, &state), "filter");
-        }
-    }
-
     State<Fir<Sample>> fir_;
     std::vector<State<Iir<Sample>>> iir_;
 };

@@ -18,10 +18,11 @@ struct IirRecord {
     Zor32s count; // the order, or the number of sections
     Structure structure;
     Zor32s owned;
-    bool isQuiet; // the last single sample was so small that denormals are near
-    E* tables;    // of steps of many samples
-    E* converted; // a chunk of numbers, where the data are none
-    void* memory; // that is released with an owned record
+    bool isQuiet;    // the last single sample was so small that denormals are near
+    bool takesSteps; // has tables of steps, by which no digits are lost
+    E* tables;       // of steps of many samples
+    E* converted;    // a chunk of numbers, where the data are none
+    void* memory;    // that is released with an owned record
 };
 
 template <class State>

@@ -39,6 +39,31 @@ TEST(IirBlocks, AreWithinTheBound)
     }
 }
 
+// Poles close to one another and to the circle, where the numbers of a delay line are far larger than what comes out.
+TEST(IirBlocks, OfLowCutOffs)
+{
+    Random random;
+    for (const IirKind& k : iirKinds()) {
+        if (!k.kind.data.isFloating() || k.kind.data.parts == 2 || k.kind.isNarrow()) continue;
+        for (const double cutOff : {0.1, 0.05, 0.02, 0.01, 0.49})
+            for (int order = 1; order <= (timeIsShort() ? 6 : 12); ++order) {
+                // Of a cascade, so many sections of the second order.
+                const int designed = k.isCascade() ? 2 : order;
+                Numbers one(static_cast<std::size_t>(2 * designed + 2)), taps;
+                ASSERT_EQ(zorsIIRGenLowpass_64f(cutOff, 0, designed, one.data(), zorIirButterworth),
+                          zorStsOk);
+                for (int i = 0; i < (k.isCascade() ? order : 1); ++i)
+                    taps.insert(taps.end(), one.begin(), one.end());
+                constexpr int len = 400;
+                const IirSignal s = iirSignalOf(k, order, taps, len, random, true);
+                SCOPED_TRACE(nameOf(s) + ", cut-off " + std::to_string(cutOff));
+                const IirRecord record(s), cut(s);
+                ASSERT_TRUE(within(s, run(record, s, {len})));
+                ASSERT_TRUE(within(s, run(cut, s, equalCalls(len, 8))));
+            }
+    }
+}
+
 // Blocks of every length up to 70, and single samples, in place and not, at any place. The same calls have the same
 // bits.
 TEST(IirBlocks, CutAStreamAnywhere)

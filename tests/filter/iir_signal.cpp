@@ -218,13 +218,8 @@ Expected expectedOf(const IirSignal& s)
 
 } // namespace
 
-IirSignal randomIirSignal(const IirKind& k, int count, int len, Random& random, double radius, bool atRest)
+IirSignal iirSignalOf(const IirKind& k, int count, Numbers taps, int len, Random& random, bool atRest)
 {
-    Numbers taps;
-    for (int s = 0; s < (k.isCascade() ? count : 1); ++s) {
-        const Numbers more = randomTaps(k, k.isCascade() ? 2 : count, radius, random);
-        taps.insert(taps.end(), more.begin(), more.end());
-    }
     int tapsFactor = 0;
     if (!k.kind.taps.isFloating()) {
         double most = 0;
@@ -249,6 +244,16 @@ IirSignal randomIirSignal(const IirKind& k, int count, int len, Random& random, 
         s.scaleFactor = static_cast<int>(std::ceil(std::log2(most / k.kind.data.most()))) - below(2, random);
     }
     return s;
+}
+
+IirSignal randomIirSignal(const IirKind& k, int count, int len, Random& random, double radius, bool atRest)
+{
+    Numbers taps;
+    for (int s = 0; s < (k.isCascade() ? count : 1); ++s) {
+        const Numbers more = randomTaps(k, k.isCascade() ? 2 : count, radius, random);
+        taps.insert(taps.end(), more.begin(), more.end());
+    }
+    return iirSignalOf(k, count, taps, len, random, atRest);
 }
 
 IirRecord::IirRecord(const IirSignal& s) : signal_(s)

@@ -19,6 +19,9 @@ struct IirSignal {
 IirSignal randomIirSignal(const IirKind& kind, int count, int len, Random& random, double radius = 0.95,
                           bool atRest = false);
 
+// The same for given taps.
+IirSignal iirSignalOf(const IirKind& kind, int count, Numbers taps, int len, Random& random, bool atRest);
+
 // A record with the taps and the delay line of a signal, in memory of the library.
 class IirRecord {
 public:

@@ -17,8 +17,9 @@
  * Filters of order up to 16, and at least the first eight sections of cascades, filter calls of 16 samples and more
  * (complex ones of 8) by steps of so many: the outputs of a step and the delay line behind it are formed from its samples
  * and the delay line before it, by tables that the recurrence makes in double precision when taps are set. All others go
- * sample by sample, and so do steps with numbers that are infinite or none. Both are within the bound. Processors
- * differ in rounding, and so do different cuts of a stream into calls; on one processor the same calls have the same
+ * sample by sample: steps with numbers that are infinite or none, and single sections of a high order whose poles are
+ * close to one another, as low cut-offs have them, because steps would lose their digits. Both are within the bound.
+ * Processors differ in rounding, and so do different cuts of a stream into calls; on one processor the same calls have the same
  * bits whatever the alignment of the vectors, in place or not.
  *
  * In blocks denormal numbers count as zeros: what a filter feeds back decays into them, and they would take a hundred
