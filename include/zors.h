@@ -31,6 +31,7 @@
 #include <zors/transform/fft_real.h>
 #include <zors/transform/fft_spec.h>
 #include <zors/transform/goertzel.h>
+#include <zors/transform/hilbert.h>
 #include <zors/transform/packed.h>
 
 #include <zors/vector/arithmetic.h>

@@ -219,6 +219,15 @@ typedef struct ZorsDFTOutOrdSpec_C_32fc ZorsDFTOutOrdSpec_C_32fc; /**< complex `
 typedef struct ZorsDFTOutOrdSpec_C_64fc ZorsDFTOutOrdSpec_C_64fc; /**< complex `64fc`, spectra out of order */
 /** @} */
 
+/** @name Records of the Hilbert transform
+ * Opaque: made by zorsHilbertInitAlloc, one type for each kind of data.
+ * @{
+ */
+typedef struct ZorsHilbertSpec_32f32fc ZorsHilbertSpec_32f32fc; /**< `32f` to `32fc` */
+typedef struct ZorsHilbertSpec_16s32fc ZorsHilbertSpec_16s32fc; /**< `16s` to `32fc` */
+typedef struct ZorsHilbertSpec_16s16sc ZorsHilbertSpec_16s16sc; /**< `16s` to `16sc` */
+/** @} */
+
 /** @name Records of finite impulse response filters
  * Opaque, one type for each pair of taps and data: of single-rate, multi-rate and stream filters alike.
  * @{
