@@ -48,13 +48,15 @@ constexpr double roundingOfFactor = 0.30;
 
 std::vector<std::size_t> lengths()
 {
+    using Lengths = std::initializer_list<std::size_t>;
     const std::size_t all = longestOrder(22) < 22 ? 130 : 700;
     std::vector<std::size_t> lengths;
     for (std::size_t n = 1; n <= all; ++n) lengths.push_back(n);
-    for (const std::size_t n : {808, 1000, 1009, 1024, 2018, 2401, 3127, 4410, 5329, 12508})
+    for (const std::size_t n : Lengths{808, 1000, 1009, 1024, 2018, 2401, 3127, 4410, 5329, 12508})
         lengths.push_back(n);
     if (all == 700)
-        for (const std::size_t n : {44100, 48000, 65537, 100003, 510510, 1000000}) lengths.push_back(n);
+        for (const std::size_t n : Lengths{44100, 48000, 65537, 100003, 510510, 1000000})
+            lengths.push_back(n);
     return lengths;
 }
 
