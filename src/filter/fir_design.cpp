@@ -94,7 +94,7 @@ void design(const Response& response, Zor64f* pTaps, int tapsLen, Zor64f* t)
         for (int i = first; i < half.points; ++i) sum += t[i] * tapAt(i);
         const double gain = std::abs(2 * sum + (half.hasCentre ? tapAt(0) : 0));
         if (gain > 0)
-            for (int i = 0; i < half.points; ++i) tapAt(i) /= gain;
+            for (int i = 0; i < half.points; ++i) tapAt(i) *= 1 / gain;
     }
     std::reverse_copy(pTaps, pTaps + tapsLen / 2, pTaps + half.points);
 }

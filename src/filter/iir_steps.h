@@ -97,7 +97,7 @@ private:
             return alternateSum(parts[0], partsExchanged(parts[1]));
     }
 
-    // Returns how many steps had finite outputs, and were stored. Every index is a constant, so that the sums stay in
+    // Returns how many steps had and left finite numbers, and were stored. Every index is a constant, so that the sums stay in
     // registers.
     template <int Count>
     [[gnu::always_inline]] static int steps(const T* table, T* found, const T* pSrc, T* pDst)
@@ -131,19 +131,23 @@ private:
         (std::make_integer_sequence<int, States>{});
         Outputs y[outputs];
         for (int p = 0; p < outputs; ++p) y[p] = joined(sum.y[p]);
+        Numbers left[states];
+        for (int q = 0; q < states; ++q) {
+            auto& next = sum.next[q];
+            for (int part = 0; part < each; ++part) {
+                next[part] += others[0][q][part];
+                if constexpr (chains == 4) next[part] += others[1][q][part] + others[2][q][part];
+            }
+            left[q] = joined(next);
+        }
         Outputs probe = y[0];
         for (int p = 1; p < outputs; ++p) probe += y[p] - y[p];
-        if (!isFinite(probe)) return false;
+        // Parts of a number may pass the largest one where their sum does not.
+        Numbers probeOfNumbers = left[0];
+        for (int q = 1; q < states; ++q) probeOfNumbers += left[q] - left[q];
+        if (!isFinite(probe) || !isFinite(probeOfNumbers)) return false;
         for (int p = 0; p < outputs; ++p) store<width>(pDst + p * width, y[p]);
-        auto& next = sum.next;
-        for (int q = 0; q < states; ++q) {
-            for (int part = 0; part < each; ++part) {
-                auto& all = next[q][part];
-                all += others[0][q][part];
-                if constexpr (chains == 4) all += others[1][q][part] + others[2][q][part];
-            }
-            store<stateWidth>(found + q * stateWidth, joined(next[q]));
-        }
+        for (int q = 0; q < states; ++q) store<stateWidth>(found + q * stateWidth, left[q]);
         return true;
     }
 };

@@ -174,7 +174,8 @@ struct Stream {
         return y;
     }
 
-    void filter(const Section& s, const Past& past, double unit)
+    // Roundings count with the largest magnitude among so many samples.
+    void filter(const Section& s, const Past& past, double unit, std::size_t among)
     {
         std::vector<double> local;
         Polynomial impulse(values.size());
@@ -186,7 +187,12 @@ struct Stream {
             return weights;
         };
         values = through(s, values, past, &local);
-        for (double& e : local) e *= unit;
+        const std::vector<double> magnitudes = local;
+        for (std::size_t n = 0; n < local.size(); ++n) {
+            const auto last = magnitudes.begin() + static_cast<std::ptrdiff_t>(n) + 1;
+            local[n] =
+                unit * *std::max_element(last - static_cast<std::ptrdiff_t>(std::min(among, n + 1)), last);
+        }
         Section loop = s;
         loop.b = {1};
         loop.b.resize(s.b.size());
@@ -195,7 +201,7 @@ struct Stream {
     }
 };
 
-Expected expectedOf(const IirSignal& s)
+Expected expectedOf(const IirSignal& s, std::size_t among)
 {
     const Numbers numbers = s.samples.numbers();
     const auto parts = static_cast<std::size_t>(s.kind.kind.data.parts);
@@ -206,7 +212,7 @@ Expected expectedOf(const IirSignal& s)
     std::size_t at = 0;
     for (const Section& section : sectionsOf(s)) {
         const int roundings = parts == 2 ? 6 * section.order() + 16 : 2 * section.order() + 6;
-        stream.filter(section, pastOf(s, section, at++), roundings * s.kind.kind.unit());
+        stream.filter(section, pastOf(s, section, at++), roundings * s.kind.kind.unit(), among);
     }
     Expected expected;
     for (std::size_t n = 0; n < stream.values.size(); ++n) {
@@ -218,8 +224,11 @@ Expected expectedOf(const IirSignal& s)
 
 } // namespace
 
-IirSignal iirSignalOf(const IirKind& k, int count, Numbers taps, int len, Random& random, bool atRest)
+IirSignal iirSignalOf(const IirKind& k, int count, Numbers taps, int len, Random& random, bool atRest,
+                      int burst)
 {
+    Numbers samples = randomNumbers(k.kind.data, len, random);
+    if (burst < len) std::fill(samples.begin() + burst * k.kind.data.parts, samples.end(), 0);
     int tapsFactor = 0;
     if (!k.kind.taps.isFloating()) {
         double most = 0;
@@ -233,11 +242,14 @@ IirSignal iirSignalOf(const IirKind& k, int count, Numbers taps, int len, Random
                 Vector(k.kind.taps, taps),
                 atRest ? Vector(k.number(), delays)
                        : Vector(k.number(), randomNumbers(k.number(), delays, random)),
-                Vector(k.kind.data, randomNumbers(k.kind.data, len, random)),
+                Vector(k.kind.data, samples),
                 tapsFactor,
                 0,
+                {},
                 {}};
-    s.expected = expectedOf(s);
+    // A step of a single section takes its numbers from the one before it.
+    s.expected = expectedOf(s, k.isCascade() ? 1 : k.kind.data.parts == 2 ? 16 : 32);
+    s.ofSamples = k.isCascade() ? s.expected : expectedOf(s, 1);
     if (!k.kind.data.isFloating() && len > 0) {
         Wide most = 1;
         for (const Wide y : s.expected.values) most = std::max(most, std::abs(y));

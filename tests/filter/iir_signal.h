@@ -4,6 +4,8 @@
 #include "filter/iir_kinds.h"
 #include "filter/signal.h"
 
+#include <climits>
+
 namespace zors::test {
 
 struct IirSignal {
@@ -11,7 +13,8 @@ struct IirSignal {
     int count; // the order, or the number of sections
     Vector taps, delay, samples;
     int tapsFactor, scaleFactor;
-    Expected expected; // its magnitudes are the bounds of the errors
+    Expected expected;  // its magnitudes are the bounds of the errors
+    Expected ofSamples; // the same where calls go sample by sample
 };
 
 // Poles all around the circle, up to a radius; a delay line of random numbers, or zeros. The scale factor keeps
@@ -19,8 +22,9 @@ struct IirSignal {
 IirSignal randomIirSignal(const IirKind& kind, int count, int len, Random& random, double radius = 0.95,
                           bool atRest = false);
 
-// The same for given taps.
-IirSignal iirSignalOf(const IirKind& kind, int count, Numbers taps, int len, Random& random, bool atRest);
+// The same for given taps; of the samples all behind a burst may be zeros.
+IirSignal iirSignalOf(const IirKind& kind, int count, Numbers taps, int len, Random& random, bool atRest,
+                      int burst = INT_MAX);
 
 // A record with the taps and the delay line of a signal, in memory of the library.
 class IirRecord {
@@ -45,6 +49,11 @@ Vector run(const IirRecord& record, const IirSignal& signal, const std::vector<i
 inline testing::AssertionResult within(const IirSignal& s, const Vector& got)
 {
     return within({1}, s.kind.kind, got, s.expected, s.scaleFactor);
+}
+
+inline testing::AssertionResult withinOfSamples(const IirSignal& s, const Vector& got)
+{
+    return within({1}, s.kind.kind, got, s.ofSamples, s.scaleFactor);
 }
 
 } // namespace zors::test

@@ -15,9 +15,9 @@ void expectHalves(int order, int tableOrder)
 {
     test::Random random;
     const test::Side side{test::Format::pairs, test::Number::float64};
-    const std::size_t bytes = side.bytes(order), n = std::size_t{1} << order;
+    const std::size_t n = std::size_t{1} << order, bytes = side.bytes(n);
     Memory in(bytes), out(bytes), room(bytes / 2);
-    const auto numbers = test::randomNumbers(side, order, random);
+    const auto numbers = test::randomNumbers(side, n, random);
     test::writeNumbers(numbers, side.number, in.get());
 
     std::vector<double> quarter((std::size_t{1} << tableOrder) / 4 + 1);
@@ -36,8 +36,8 @@ void expectHalves(int order, int tableOrder)
     shuffleHalves(io, static_cast<std::ptrdiff_t>(n), static_cast<double*>(room.get()));
 
     test::RelativeError error;
-    error.add(test::pointsFrom(test::readNumbers(dst, side.number, 2 * n), side.format, order),
-              test::dft(test::pointsFrom(numbers, side.format, order)));
+    error.add(test::pointsFrom(test::readNumbers(dst, side.number, 2 * n), side.format, n),
+              test::dft(test::pointsFrom(numbers, side.format, n)));
     EXPECT_LT(error.value(), 0.4 * std::numeric_limits<double>::epsilon() * std::sqrt(order));
 }
 

@@ -42,8 +42,8 @@
  * will do.
  * @param order order N of the filter; filters with integer taps may have order 0
  * @param pStateSize receives the size
- * @return zorStsNullPointer for a null @p pStateSize, then zorStsBadIirOrder for @p order or @p numBq below 1 (@p
- * order of integer taps below 0), then zorStsBadSize for a size above 2^31 - 1, else zorStsOk
+ * @return zorStsNullPointer for a null @p pStateSize, then zorStsBadIirOrder for @p order below 1 (of integer taps:
+ * below 0), then zorStsBadSize for a size above 2^31 - 1, else zorStsOk
  */
 ZORSAPI(ZorStatus, zorsIIRGetStateSize_32f, (int order, int* pStateSize))
 ZORSAPI(ZorStatus, zorsIIRGetStateSize_32fc, (int order, int* pStateSize))
@@ -69,8 +69,8 @@ ZORSAPI(ZorStatus, zorsIIRGetStateSize64fc_16sc, (int order, int* pStateSize))
  * will do.
  * @param numBq number of sections
  * @param pStateSize receives the size
- * @return zorStsNullPointer for a null @p pStateSize, then zorStsBadIirOrder for @p order or @p numBq below 1 (@p
- * order of integer taps below 0), then zorStsBadSize for a size above 2^31 - 1, else zorStsOk
+ * @return zorStsNullPointer for a null @p pStateSize, then zorStsBadIirOrder for @p numBq below 1, then zorStsBadSize
+ * for a size above 2^31 - 1, else zorStsOk
  */
 ZORSAPI(ZorStatus, zorsIIRGetStateSize_BiQuad_32f, (int numBq, int* pStateSize))
 ZORSAPI(ZorStatus, zorsIIRGetStateSize_BiQuad_32fc, (int numBq, int* pStateSize))
@@ -101,10 +101,10 @@ ZORSAPI(ZorStatus, zorsIIRGetStateSize_BiQuad_DF1_32f, (int numBq, int* pStateSi
  * @param pDlyLine delay line to begin with, or null for zeros
  * @param pBuffer memory of the size that zorsIIRGetStateSize tells, for as long as the record is used; unchanged
  * after an error
- * @return zorStsNullPointer for a null @p ppState, @p pTaps or @p pBuffer, then zorStsBadIirOrder for @p order or @p
- * numBq below 1 (@p order of integer taps below 0), then zorStsBadSize where the size is above 2^31 - 1, then
- * zorStsNoMemory where integer taps find no memory to be converted in, then zorStsDivByZeroError where a0, or b0 of a
- * section, is zero (of integer taps when converted), else zorStsOk
+ * @return zorStsNullPointer for a null @p ppState, @p pTaps or @p pBuffer, then zorStsBadIirOrder for @p order below
+ * 1 (of integer taps: below 0), then zorStsBadSize where the size is above 2^31 - 1, then zorStsNoMemory where
+ * integer taps find no memory to be converted in, then zorStsDivByZeroError where a0, or b0 of a section, is zero (of
+ * integer taps when converted), else zorStsOk
  */
 ZORSAPI(ZorStatus, zorsIIRInit_32f,
         (ZorsIIRState_32f** ppState, const Zor32f* pTaps, int order, const Zor32f* pDlyLine, Zor8u* pBuffer))
@@ -154,10 +154,10 @@ ZORSAPI(ZorStatus, zorsIIRInit64fc_16sc,
  * @param pDlyLine delay line to begin with, or null for zeros
  * @param pBuffer memory of the size that zorsIIRGetStateSize tells, for as long as the record is used; unchanged
  * after an error
- * @return zorStsNullPointer for a null @p ppState, @p pTaps or @p pBuffer, then zorStsBadIirOrder for @p order or @p
- * numBq below 1 (@p order of integer taps below 0), then zorStsBadSize where the size is above 2^31 - 1, then
- * zorStsNoMemory where integer taps find no memory to be converted in, then zorStsDivByZeroError where a0, or b0 of a
- * section, is zero (of integer taps when converted), else zorStsOk
+ * @return zorStsNullPointer for a null @p ppState, @p pTaps or @p pBuffer, then zorStsBadIirOrder for @p order below
+ * 1 (of integer taps: below 0), then zorStsBadSize where the size is above 2^31 - 1, then zorStsNoMemory where
+ * integer taps find no memory to be converted in, then zorStsDivByZeroError where a0, or b0 of a section, is zero (of
+ * integer taps when converted), else zorStsOk
  */
 ZORSAPI(ZorStatus, zorsIIRInit32s_16s,
         (ZorsIIRState32s_16s** ppState, const Zor32s* pTaps, int order, int tapsFactor,
@@ -178,10 +178,10 @@ ZORSAPI(ZorStatus, zorsIIRInit32s_16s32f,
  * @param pDlyLine delay line to begin with, or null for zeros
  * @param pBuffer memory of the size that zorsIIRGetStateSize tells, for as long as the record is used; unchanged
  * after an error
- * @return zorStsNullPointer for a null @p ppState, @p pTaps or @p pBuffer, then zorStsBadIirOrder for @p order or @p
- * numBq below 1 (@p order of integer taps below 0), then zorStsBadSize where the size is above 2^31 - 1, then
- * zorStsNoMemory where integer taps find no memory to be converted in, then zorStsDivByZeroError where a0, or b0 of a
- * section, is zero (of integer taps when converted), else zorStsOk
+ * @return zorStsNullPointer for a null @p ppState, @p pTaps or @p pBuffer, then zorStsBadIirOrder for @p numBq below
+ * 1, then zorStsBadSize where the size is above 2^31 - 1, then zorStsNoMemory where integer taps find no memory to be
+ * converted in, then zorStsDivByZeroError where a0, or b0 of a section, is zero (of integer taps when converted),
+ * else zorStsOk
  */
 ZORSAPI(ZorStatus, zorsIIRInit_BiQuad_32f,
         (ZorsIIRState_32f** ppState, const Zor32f* pTaps, int numBq, const Zor32f* pDlyLine, Zor8u* pBuffer))
@@ -230,10 +230,10 @@ ZORSAPI(ZorStatus, zorsIIRInit_BiQuad_DF1_32f,
  * @param pDlyLine delay line to begin with, or null for zeros
  * @param pBuffer memory of the size that zorsIIRGetStateSize tells, for as long as the record is used; unchanged
  * after an error
- * @return zorStsNullPointer for a null @p ppState, @p pTaps or @p pBuffer, then zorStsBadIirOrder for @p order or @p
- * numBq below 1 (@p order of integer taps below 0), then zorStsBadSize where the size is above 2^31 - 1, then
- * zorStsNoMemory where integer taps find no memory to be converted in, then zorStsDivByZeroError where a0, or b0 of a
- * section, is zero (of integer taps when converted), else zorStsOk
+ * @return zorStsNullPointer for a null @p ppState, @p pTaps or @p pBuffer, then zorStsBadIirOrder for @p numBq below
+ * 1, then zorStsBadSize where the size is above 2^31 - 1, then zorStsNoMemory where integer taps find no memory to be
+ * converted in, then zorStsDivByZeroError where a0, or b0 of a section, is zero (of integer taps when converted),
+ * else zorStsOk
  */
 ZORSAPI(ZorStatus, zorsIIRInit32s_BiQuad_16s,
         (ZorsIIRState32s_16s** ppState, const Zor32s* pTaps, int numBq, int tapsFactor,
@@ -258,10 +258,10 @@ ZORSAPI(ZorStatus, zorsIIRInit32sc_BiQuad_16sc32fc,
  * @param pTaps taps
  * @param order order N of the filter; filters with integer taps may have order 0
  * @param pDlyLine delay line to begin with, or null for zeros
- * @return zorStsNullPointer for a null @p ppState or @p pTaps, then zorStsBadIirOrder for @p order or @p numBq below
- * 1 (@p order of integer taps below 0), then zorStsBadSize where the size is above 2^31 - 1, then zorStsNoMemory
- * where integer taps find no memory to be converted in, then zorStsDivByZeroError where a0, or b0 of a section, is
- * zero (of integer taps when converted), then zorStsNoMemory where there is no memory for the record, else zorStsOk
+ * @return zorStsNullPointer for a null @p ppState or @p pTaps, then zorStsBadIirOrder for @p order below 1 (of
+ * integer taps: below 0), then zorStsBadSize where the size is above 2^31 - 1, then zorStsNoMemory where integer taps
+ * find no memory to be converted in, then zorStsDivByZeroError where a0, or b0 of a section, is zero (of integer taps
+ * when converted), then zorStsNoMemory where there is no memory for the record, else zorStsOk
  */
 ZORSAPI(ZorStatus, zorsIIRInitAlloc_32f,
         (ZorsIIRState_32f** ppState, const Zor32f* pTaps, int order, const Zor32f* pDlyLine))
@@ -299,10 +299,10 @@ ZORSAPI(ZorStatus, zorsIIRInitAlloc64fc_16sc,
  * @param order order N of the filter; filters with integer taps may have order 0
  * @param tapsFactor integer taps stand for pTaps * 2^-tapsFactor
  * @param pDlyLine delay line to begin with, or null for zeros
- * @return zorStsNullPointer for a null @p ppState or @p pTaps, then zorStsBadIirOrder for @p order or @p numBq below
- * 1 (@p order of integer taps below 0), then zorStsBadSize where the size is above 2^31 - 1, then zorStsNoMemory
- * where integer taps find no memory to be converted in, then zorStsDivByZeroError where a0, or b0 of a section, is
- * zero (of integer taps when converted), then zorStsNoMemory where there is no memory for the record, else zorStsOk
+ * @return zorStsNullPointer for a null @p ppState or @p pTaps, then zorStsBadIirOrder for @p order below 1 (of
+ * integer taps: below 0), then zorStsBadSize where the size is above 2^31 - 1, then zorStsNoMemory where integer taps
+ * find no memory to be converted in, then zorStsDivByZeroError where a0, or b0 of a section, is zero (of integer taps
+ * when converted), then zorStsNoMemory where there is no memory for the record, else zorStsOk
  */
 ZORSAPI(ZorStatus, zorsIIRInitAlloc32s_16s,
         (ZorsIIRState32s_16s** ppState, const Zor32s* pTaps, int order, int tapsFactor,
@@ -321,10 +321,10 @@ ZORSAPI(ZorStatus, zorsIIRInitAlloc32s_16s32f,
  * @param pTaps taps
  * @param numBq number of sections
  * @param pDlyLine delay line to begin with, or null for zeros
- * @return zorStsNullPointer for a null @p ppState or @p pTaps, then zorStsBadIirOrder for @p order or @p numBq below
- * 1 (@p order of integer taps below 0), then zorStsBadSize where the size is above 2^31 - 1, then zorStsNoMemory
- * where integer taps find no memory to be converted in, then zorStsDivByZeroError where a0, or b0 of a section, is
- * zero (of integer taps when converted), then zorStsNoMemory where there is no memory for the record, else zorStsOk
+ * @return zorStsNullPointer for a null @p ppState or @p pTaps, then zorStsBadIirOrder for @p numBq below 1, then
+ * zorStsBadSize where the size is above 2^31 - 1, then zorStsNoMemory where integer taps find no memory to be
+ * converted in, then zorStsDivByZeroError where a0, or b0 of a section, is zero (of integer taps when converted),
+ * then zorStsNoMemory where there is no memory for the record, else zorStsOk
  */
 ZORSAPI(ZorStatus, zorsIIRInitAlloc_BiQuad_32f,
         (ZorsIIRState_32f** ppState, const Zor32f* pTaps, int numBq, const Zor32f* pDlyLine))
@@ -362,10 +362,10 @@ ZORSAPI(ZorStatus, zorsIIRInitAlloc_BiQuad_DF1_32f,
  * @param numBq number of sections
  * @param tapsFactor integer taps stand for pTaps * 2^-tapsFactor
  * @param pDlyLine delay line to begin with, or null for zeros
- * @return zorStsNullPointer for a null @p ppState or @p pTaps, then zorStsBadIirOrder for @p order or @p numBq below
- * 1 (@p order of integer taps below 0), then zorStsBadSize where the size is above 2^31 - 1, then zorStsNoMemory
- * where integer taps find no memory to be converted in, then zorStsDivByZeroError where a0, or b0 of a section, is
- * zero (of integer taps when converted), then zorStsNoMemory where there is no memory for the record, else zorStsOk
+ * @return zorStsNullPointer for a null @p ppState or @p pTaps, then zorStsBadIirOrder for @p numBq below 1, then
+ * zorStsBadSize where the size is above 2^31 - 1, then zorStsNoMemory where integer taps find no memory to be
+ * converted in, then zorStsDivByZeroError where a0, or b0 of a section, is zero (of integer taps when converted),
+ * then zorStsNoMemory where there is no memory for the record, else zorStsOk
  */
 ZORSAPI(ZorStatus, zorsIIRInitAlloc32s_BiQuad_16s,
         (ZorsIIRState32s_16s** ppState, const Zor32s* pTaps, int numBq, int tapsFactor,

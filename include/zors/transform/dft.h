@@ -11,20 +11,21 @@
  * @{
  */
 /**
- * The forward transform of N complex pairs, or the inverse one. Products of small factors are taken as two steps over rows
- * and columns (D. H. Bailey, FFTs in external or hierarchical memory, J. Supercomputing 4, 1990), short primes by sums
- * along the powers of a primitive root (C. M. Rader, Proc. IEEE 56, 1968), other lengths as convolutions with a chirp
- * (L. I. Bluestein, NEREM Record 10, 1968).
+ * The forward transform of N complex pairs, or the inverse one. Products of small factors are taken as two steps over
+ * rows and columns (D. H. Bailey, FFTs in external or hierarchical memory, J. Supercomputing 4, 1990), short primes
+ * by sums along the powers of a primitive root (C. M. Rader, Proc. IEEE 56, 1968), other lengths as convolutions with
+ * a chirp (L. I. Bluestein, NEREM Record 10, 1968).
  *
- * The root mean square of the error is at most 0.60 eps sqrt(log2 N) of that of the result, eps being the element type's,
- * where N is a product of small factors or a prime to 50 (double precision: 90), 0.40 where it is a power of two, and 1.20
- * at other lengths, which are convolutions; 1.5 eps at 16 points and fewer. Results do not depend on alignment, on who
- * supplied the work buffer, or on whether the call works in place; they may differ between processor variants.
+ * The root mean square of the error is at most 0.60 eps sqrt(log2 N) of that of the result, eps being the element
+ * type's, where N is a product of small factors or a prime to 50 (double precision: 90), 0.40 where it is a power of
+ * two, and 1.20 at other lengths, which are convolutions; 1.5 eps at 16 points and fewer. Results do not depend on
+ * alignment, on who supplied the work buffer, or on whether the call works in place; they may differ between
+ * processor variants.
  * @param pSrc source vector of N elements
  * @param pDst destination vector of N elements; equal to @p pSrc or without overlap
  * @param pSpec record of the same kind; tells length and scaling
- * @param pBuffer work buffer of the size that zorsDFTGetBufSize tells, at any address; null to have it allocated for the
- * time of the call
+ * @param pBuffer work buffer of the size that zorsDFTGetBufSize tells, at any address; null to have it allocated for
+ * the time of the call
  * @return zorStsNullPointer for a null @p pSpec, then zorStsWrongContext for a record of another kind, then
  * zorStsNullPointer for a null vector, then zorStsNoMemory where the work buffer cannot be allocated, else zorStsOk
  */
@@ -48,8 +49,8 @@ ZORSAPI(ZorStatus, zorsDFTInv_CToC_64fc,
  * @param pDstRe real parts of the destination; equal to @p pSrcRe or without overlap with any source
  * @param pDstIm imaginary parts of the destination; equal to @p pSrcIm or without overlap with any source
  * @param pSpec record of the same kind; tells length and scaling
- * @param pBuffer work buffer of the size that zorsDFTGetBufSize tells, at any address; null to have it allocated for the
- * time of the call
+ * @param pBuffer work buffer of the size that zorsDFTGetBufSize tells, at any address; null to have it allocated for
+ * the time of the call
  * @return zorStsNullPointer for a null @p pSpec, then zorStsWrongContext for a record of another kind, then
  * zorStsNullPointer for a null vector, then zorStsNoMemory where the work buffer cannot be allocated, else zorStsOk
  */
@@ -71,14 +72,14 @@ ZORSAPI(ZorStatus, zorsDFTInv_CToC_64f,
  * @{
  */
 /**
- * The spectrum of N real numbers in the format that the name tells; inverse: the sum over all N points of the spectrum. The
- * zeros of the CCS format are written and not read. The bounds are those of the complex transforms; of even lengths that of
- * N / 2 points where that is larger.
+ * The spectrum of N real numbers in the format that the name tells; inverse: the sum over all N points of the
+ * spectrum. The zeros of the CCS format are written and not read. The bounds are those of the complex transforms; of
+ * even lengths that of N / 2 points where that is larger.
  * @param pSrc source vector: N numbers, a CCS spectrum N + 2 (N odd: N + 1)
  * @param pDst destination vector of the same lengths; equal to @p pSrc or without overlap
  * @param pSpec record of the same kind; tells length and scaling
- * @param pBuffer work buffer of the size that zorsDFTGetBufSize tells, at any address; null to have it allocated for the
- * time of the call
+ * @param pBuffer work buffer of the size that zorsDFTGetBufSize tells, at any address; null to have it allocated for
+ * the time of the call
  * @return zorStsNullPointer for a null @p pSpec, then zorStsWrongContext for a record of another kind, then
  * zorStsNullPointer for a null vector, then zorStsNoMemory where the work buffer cannot be allocated, else zorStsOk
  */
@@ -112,13 +113,14 @@ ZORSAPI(ZorStatus, zorsDFTInv_PermToR_64f,
  * @{
  */
 /**
- * Transforms of 16-bit complex pairs. Computed in single precision; the result times 2^-scaleFactor is rounded to nearest, ties to even, and saturated.
+ * Transforms of 16-bit complex pairs. Computed in single precision; the result times 2^-scaleFactor is rounded to
+ * nearest, ties to even, and saturated.
  * @param pSrc source vector of N elements
  * @param pDst destination vector of N elements; equal to @p pSrc or without overlap
  * @param pSpec record of the same kind; tells length and scaling
  * @param scaleFactor results are multiplied by 2^-scaleFactor
- * @param pBuffer work buffer of the size that zorsDFTGetBufSize tells, at any address; null to have it allocated for the
- * time of the call
+ * @param pBuffer work buffer of the size that zorsDFTGetBufSize tells, at any address; null to have it allocated for
+ * the time of the call
  * @return zorStsNullPointer for a null @p pSpec, then zorStsWrongContext for a record of another kind, then
  * zorStsNullPointer for a null vector, then zorStsNoMemory where the work buffer cannot be allocated, else zorStsOk
  */
@@ -134,15 +136,16 @@ ZORSAPI(ZorStatus, zorsDFTInv_CToC_16sc_Sfs,
  * @{
  */
 /**
- * Transforms of 16-bit complex numbers whose parts stand in two arrays. Computed in single precision; the result times 2^-scaleFactor is rounded to nearest, ties to even, and saturated.
+ * Transforms of 16-bit complex numbers whose parts stand in two arrays. Computed in single precision; the result
+ * times 2^-scaleFactor is rounded to nearest, ties to even, and saturated.
  * @param pSrcRe real parts of the source, N numbers
  * @param pSrcIm imaginary parts of the source
  * @param pDstRe real parts of the destination; equal to @p pSrcRe or without overlap with any source
  * @param pDstIm imaginary parts of the destination; equal to @p pSrcIm or without overlap with any source
  * @param pSpec record of the same kind; tells length and scaling
  * @param scaleFactor results are multiplied by 2^-scaleFactor
- * @param pBuffer work buffer of the size that zorsDFTGetBufSize tells, at any address; null to have it allocated for the
- * time of the call
+ * @param pBuffer work buffer of the size that zorsDFTGetBufSize tells, at any address; null to have it allocated for
+ * the time of the call
  * @return zorStsNullPointer for a null @p pSpec, then zorStsWrongContext for a record of another kind, then
  * zorStsNullPointer for a null vector, then zorStsNoMemory where the work buffer cannot be allocated, else zorStsOk
  */
@@ -158,13 +161,14 @@ ZORSAPI(ZorStatus, zorsDFTInv_CToC_16s_Sfs,
  * @{
  */
 /**
- * Transforms of real 16-bit data, with 16-bit spectra in the format that the name tells. Computed in single precision; the result times 2^-scaleFactor is rounded to nearest, ties to even, and saturated.
+ * Transforms of real 16-bit data, with 16-bit spectra in the format that the name tells. Computed in single
+ * precision; the result times 2^-scaleFactor is rounded to nearest, ties to even, and saturated.
  * @param pSrc source vector: N numbers, a CCS spectrum N + 2 (N odd: N + 1)
  * @param pDst destination vector of the same lengths; equal to @p pSrc or without overlap
  * @param pSpec record of the same kind; tells length and scaling
  * @param scaleFactor results are multiplied by 2^-scaleFactor
- * @param pBuffer work buffer of the size that zorsDFTGetBufSize tells, at any address; null to have it allocated for the
- * time of the call
+ * @param pBuffer work buffer of the size that zorsDFTGetBufSize tells, at any address; null to have it allocated for
+ * the time of the call
  * @return zorStsNullPointer for a null @p pSpec, then zorStsWrongContext for a record of another kind, then
  * zorStsNullPointer for a null vector, then zorStsNoMemory where the work buffer cannot be allocated, else zorStsOk
  */

@@ -1,8 +1,7 @@
 /**
- * @file
- * Discrete Fourier transforms of any length whose spectra are in the order in which the passes leave them: for those who
- * multiply two spectra and transform back, and do not look at the points. That order belongs to a record's length and
- * kind. The passes of this library sort themselves, so today it is the natural one.
+ * @file Discrete Fourier transforms of any length whose spectra are in the order in which the passes leave them: for
+ * those who multiply two spectra and transform back, and do not look at the points. That order belongs to a record's
+ * length and kind. The passes of this library sort themselves, so today it is the natural one.
  */
 #include <zortypes.h>
 
@@ -57,13 +56,13 @@ ZORSAPI(ZorStatus, zorsDFTOutOrdGetBufSize_C_64fc,
  * @{
  */
 /**
- * The transforms of zorsDFTFwd_CToC_32fc() and its kin, forward with a spectrum out of order, inverse from such a spectrum
- * to natural order; with their bounds.
+ * The transforms of zorsDFTFwd_CToC_32fc() and its kin, forward with a spectrum out of order, inverse from such a
+ * spectrum to natural order; with their bounds.
  * @param pSrc source vector of N elements
  * @param pDst destination vector of N elements; equal to @p pSrc or without overlap
  * @param pSpec record of the same kind; tells length and scaling
- * @param pBuffer work buffer of the size that zorsDFTOutOrdGetBufSize tells, at any address; null to have it allocated for the
- * time of the call
+ * @param pBuffer work buffer of the size that zorsDFTOutOrdGetBufSize tells, at any address; null to have it
+ * allocated for the time of the call
  * @return zorStsNullPointer for a null @p pSpec, then zorStsWrongContext for a record of another kind, then
  * zorStsNullPointer for a null vector, then zorStsNoMemory where the work buffer cannot be allocated, else zorStsOk
  */

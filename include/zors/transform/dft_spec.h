@@ -3,9 +3,9 @@
  * Records of discrete Fourier transforms of any length: their sizes, and how they are made and released.
  *
  * A record is read-only once it is made: any number of threads may use one at a time, each with a work buffer of its
- * own. There is one kind for each type of data: complex in pairs (`C_32fc`, `C_64fc`, `C_16sc`), complex in two arrays
- * (`C_32f`, `C_64f`, `C_16s`) and real (`R_32f`, `R_64f`, `R_16s`), and two of pairs for transforms out of order. The
- * 16-bit kinds compute in single precision. A length is taken by one of these methods:
+ * own. There is one kind for each type of data: complex in pairs (`C_32fc`, `C_64fc`, `C_16sc`), complex in two
+ * arrays (`C_32f`, `C_64f`, `C_16s`) and real (`R_32f`, `R_64f`, `R_16s`), and two of pairs for transforms out of
+ * order. The 16-bit kinds compute in single precision. A length is taken by one of these methods:
  *
  * | length N | method |
  * |---|---|
@@ -15,10 +15,10 @@
  * | a prime to 50 (double precision: 90) | sums of products |
  * | any other below 2^26 (2^25) | convolution with a chirp |
  *
- * Small factors: when fours, then a two, then odd divisors d in ascending order, d^2 at most what is left, are taken out
- * of N, at least one is found, none is needed beyond 50 (90), and what is left is at most 50 (90), or 150 where N is a
- * multiple of four. The largest length of the second method is that of the kind's fast transform, that of the third
- * 2^27 - 1 (2^26 - 1).
+ * Small factors: when fours, then a two, then odd divisors d in ascending order, d^2 at most what is left, are taken
+ * out of N, at least one is found, none is needed beyond 50 (90), and what is left is at most 50 (90), or 150 where N
+ * is a multiple of four. The largest length of the second method is that of the kind's fast transform, that of the
+ * third 2^27 - 1 (2^26 - 1).
  */
 #include <zortypes.h>
 
@@ -26,16 +26,16 @@
  * @{
  */
 /**
- * The sizes in bytes of what a record needs. Each that is not 0 has room for aligning it to 64 bytes, so memory at any
- * address will do. To 16 points the record takes 832 bytes and nothing else is needed.
+ * The sizes in bytes of what a record needs. Each that is not 0 has room for aligning it to 64 bytes, so memory at
+ * any address will do. To 16 points the record takes 832 bytes and nothing else is needed.
  * @param length number of points N, at least 1
  * @param flag one of ZOR_FFT_SCALE_FWD, ZOR_FFT_SCALE_INV, ZOR_FFT_SCALE_SQRT, ZOR_FFT_SCALE_NONE
  * @param hint kept in the record; any value, without influence on results
  * @param pSpecSize receives the size of the record
  * @param pInitSize receives the size of the memory that only the initialisation needs; 0 where it needs none
  * @param pBufferSize receives the size of the work buffer; 0 where a transform needs none
- * @return zorStsNullPointer for a null pointer, then zorStsBadSize for @p length below 1, then zorStsBadFftFlag for an
- * unknown @p flag, then zorStsBadSize for a length without a method or with a size beyond 2^31 - 1, else zorStsOk
+ * @return zorStsNullPointer for a null pointer, then zorStsBadSize for @p length below 1, then zorStsBadFftFlag for
+ * an unknown @p flag, then zorStsBadSize for a length without a method or with a size beyond 2^31 - 1, else zorStsOk
  */
 ZORSAPI(ZorStatus, zorsDFTGetSize_C_16sc,
         (int length, int flag, ZorHintAlgorithm hint, int* pSpecSize, int* pInitSize, int* pBufferSize))
@@ -61,8 +61,8 @@ ZORSAPI(ZorStatus, zorsDFTGetSize_R_64f,
  * @{
  */
 /**
- * Makes a record in memory of the caller, at its first address that is a multiple of 64. The record points into itself
- * and must not be moved.
+ * Makes a record in memory of the caller, at its first address that is a multiple of 64. The record points into
+ * itself and must not be moved.
  * @param ppSpec receives the record
  * @param length number of points N, at least 1
  * @param flag one of ZOR_FFT_SCALE_FWD, ZOR_FFT_SCALE_INV, ZOR_FFT_SCALE_SQRT, ZOR_FFT_SCALE_NONE

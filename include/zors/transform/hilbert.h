@@ -1,7 +1,6 @@
 /**
- * @file
- * The analytic signal z of N real numbers x, by discrete Fourier transforms: Re z = x, and Im z is the discrete Hilbert
- * transform of x. Its spectrum is that of x, doubled between the points 0 and N/2 and zero above N/2.
+ * @file The analytic signal z of N real numbers x, by discrete Fourier transforms: Re z = x, and Im z is the discrete
+ * Hilbert transform of x. Its spectrum is that of x, doubled between the points 0 and N/2 and zero above N/2.
  *
  * A record is read-only once it is made: any number of threads may use one at a time. Records and transforms take
  * memory of their own, as zorsDFTFwd_CToC_32fc() does without a work buffer.
@@ -46,9 +45,9 @@ ZORSAPI(ZorStatus, zorsHilbertFree_16s16sc, (ZorsHilbertSpec_16s16sc* pSpec))
  * @{
  */
 /**
- * The analytic signal in single precision. Of one and two points the imaginary parts are zero. The error is that of the
- * two transforms: its root mean square is at most twice the bound of zorsDFTFwd_CToC_32fc() relative to that of the
- * result.
+ * The analytic signal in single precision. Of one and two points the imaginary parts are zero. The error is that of
+ * the two transforms: its root mean square is at most twice the bound of zorsDFTFwd_CToC_32fc() relative to that of
+ * the result.
  * @param pSrc source vector of N numbers; without overlap with @p pDst
  * @param pDst destination vector of N elements
  * @param pSpec record of the same kind
