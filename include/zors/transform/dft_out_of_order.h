@@ -1,5 +1,6 @@
 /**
- * @file Discrete Fourier transforms of any length whose spectra are in the order in which the passes leave them: for
+ * @file
+ * Discrete Fourier transforms of any length whose spectra are in the order in which the passes leave them: for
  * those who multiply two spectra and transform back, and do not look at the points. That order belongs to a record's
  * length and kind. The passes of this library sort themselves, so today it is the natural one.
  */

@@ -1,5 +1,6 @@
 /**
- * @file The analytic signal z of N real numbers x, by discrete Fourier transforms: Re z = x, and Im z is the discrete
+ * @file
+ * The analytic signal z of N real numbers x, by discrete Fourier transforms: Re z = x, and Im z is the discrete
  * Hilbert transform of x. Its spectrum is that of x, doubled between the points 0 and N/2 and zero above N/2.
  *
  * A record is read-only once it is made: any number of threads may use one at a time. Records and transforms take
